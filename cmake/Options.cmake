@@ -1,0 +1,47 @@
+# How our own code is compiled. The presets in CMakePresets.json set the options below.
+
+option(QUENVALE_IPO "Optimise across files when linking" OFF)
+option(QUENVALE_COVERAGE "Count the lines that run (gcov)" OFF)
+option(QUENVALE_FUZZ "Build the fuzzers (clang only)" OFF)
+set(QUENVALE_SANITIZE "" CACHE STRING "Sanitizers, for example address,undefined")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}")
+
+if(NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
+    set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
+endif()
+add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+
+if(QUENVALE_SANITIZE)
+    add_compile_options(-fsanitize=${QUENVALE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${QUENVALE_SANITIZE})
+endif()
+if(QUENVALE_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
+if(QUENVALE_COVERAGE)
+    add_compile_options(--coverage)
+    add_link_options(--coverage)
+endif()
+if(QUENVALE_IPO)
+    set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+endif()
+
+# ccache makes the second build of the same text nearly free. It trusts a precompiled header only when it
+# is told to, and the header must not carry the time at which it was made.
+find_program(CCACHE ccache)
+mark_as_advanced(CCACHE)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        "${CCACHE}")
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        add_compile_options(-fpch-preprocess)
+    else()
+        add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
+    endif()
+endif()
