@@ -1,0 +1,379 @@
+#include "ui/toolkit/desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ui {
+
+namespace {
+
+constexpr int kRingMargin = 10;
+
+}  // namespace
+
+// Screens ---------------------------------------------------------------------------------------------
+
+Form* Desktop::FindForm(std::string_view name) const
+{
+    const auto it =
+        std::find_if(forms_.begin(), forms_.end(), [name](const Form* form) { return form->Name() == name; });
+    return it == forms_.end() ? nullptr : *it;
+}
+
+Control* Desktop::FindControl(std::string_view name) const
+{
+    const auto dot = name.find('.');
+    const Form* form = dot == std::string_view::npos ? nullptr : FindForm(name.substr(0, dot));
+    return form == nullptr ? nullptr : form->Find(name.substr(dot + 1));
+}
+
+Form* Desktop::ModalForm() const
+{
+    const auto it =
+        std::find_if(shown_.rbegin(), shown_.rend(), [](const Form* form) { return form->Modal(); });
+    return it == shown_.rend() ? nullptr : *it;
+}
+
+Form* Desktop::FrontForm() const
+{
+    for (auto it = shown_.rbegin(); it != shown_.rend(); ++it) {
+        if (TakesInput(**it)) {
+            return *it;
+        }
+    }
+    return nullptr;
+}
+
+void Desktop::BringToFront(Form& form)
+{
+    shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
+    auto place = shown_.end();
+    if (form.GetDesign().backdrop) {
+        place = shown_.begin();
+    } else if (!form.Modal()) {
+        place = std::find_if(shown_.begin(), shown_.end(), [](const Form* other) { return other->Modal(); });
+    }
+    shown_.insert(place, &form);
+    const bool hasFocus = focus_ != nullptr && &focus_->GetForm() == &form;
+    if (TakesInput(form) && !hasFocus) {
+        SetFocus(form.initialFocus);
+    }
+}
+
+void Desktop::Remove(Form& form)
+{
+    shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
+    const auto belongs = [&form](const Control* control) {
+        return control != nullptr && &control->GetForm() == &form;
+    };
+    if (belongs(focus_)) {
+        focus_ = nullptr;
+    }
+    if (belongs(hovered_)) {
+        hovered_ = nullptr;
+    }
+    if (belongs(pressed_)) {
+        pressed_ = nullptr;
+    }
+}
+
+bool Desktop::TakesInput(const Form& form) const
+{
+    const Form* modal = ModalForm();
+    return form.Visible() && form.Enabled() && (modal == nullptr || modal == &form);
+}
+
+// Events ----------------------------------------------------------------------------------------------
+
+void Desktop::Dispatch(const std::function<void()>& event)
+{
+    struct Running {
+        int& depth;
+        explicit Running(int& d) : depth(d) { ++depth; }
+        ~Running() { --depth; }
+    };
+    {
+        const Running running(depth_);  // also when a handler throws
+        event();
+    }
+    Settle();
+}
+
+void Desktop::Settle()
+{
+    while (depth_ == 0 && !pending_.empty()) {
+        const std::function<void()> action = std::move(pending_.front());
+        pending_.erase(pending_.begin());
+        Dispatch(action);
+    }
+}
+
+Refusal Desktop::Refused(const Form& form) const
+{
+    if (!form.Visible()) {
+        return form.Name() + " is not shown";
+    }
+    const Form* modal = ModalForm();
+    if (modal != nullptr && modal != &form) {
+        return form.Name() + " waits behind " + modal->Name();
+    }
+    if (!form.Enabled()) {
+        return form.Name() + " is disabled";
+    }
+    return std::nullopt;
+}
+
+Refusal Desktop::Refused(const Control& control) const
+{
+    if (Refusal refusal = Refused(control.GetForm())) {
+        return refusal;
+    }
+    const std::string name = control.GetForm().Name() + "." + control.Name();
+    if (!control.Now().visible) {
+        return name + " is hidden";
+    }
+    if (!control.Now().enabled) {
+        return name + " is disabled";
+    }
+    return std::nullopt;
+}
+
+void Desktop::Run(Control& control)
+{
+    if (control.GetKind() == Control::Kind::OptionButton) {
+        for (Control* other : control.GetForm().Controls()) {
+            if (other->GetKind() == Control::Kind::OptionButton) {
+                other->SetChosen(other == &control);
+            }
+        }
+    }
+    const std::function<void()>& own = control.onClick;
+    const std::function<void()>& handler = own ? own : control.GetForm().onClick;
+    if (handler) {
+        Dispatch(handler);
+    }
+}
+
+Refusal Desktop::Click(Form& form)
+{
+    Refusal refusal = Refused(form);
+    if (!refusal && form.onClick) {
+        Dispatch(form.onClick);
+    }
+    return refusal;
+}
+
+Refusal Desktop::Click(Control& control)
+{
+    Refusal refusal = Refused(control);
+    if (!refusal) {
+        if (control.Focusable()) {
+            SetFocus(&control);
+        }
+        Run(control);
+    }
+    return refusal;
+}
+
+Refusal Desktop::Hover(Form& form)
+{
+    Refusal refusal = Refused(form);
+    if (!refusal) {
+        SetHovered(nullptr);
+    }
+    return refusal;
+}
+
+Refusal Desktop::Hover(Control& control)
+{
+    Refusal refusal = Refused(control);
+    if (!refusal) {
+        SetHovered(&control);
+        if (control.onHover) {
+            Dispatch(control.onHover);
+        }
+    }
+    return refusal;
+}
+
+Refusal Desktop::Type(TextBox& box, std::string_view text)
+{
+    Refusal refusal = Refused(box);
+    if (!refusal) {
+        SetFocus(&box);
+        box.Change([text](TextEdit& edit) { edit.SetText(text); });
+    }
+    return refusal;
+}
+
+// The pointer -----------------------------------------------------------------------------------------
+
+Form* Desktop::FormAt(Point at) const
+{
+    for (auto it = shown_.rbegin(); it != shown_.rend(); ++it) {
+        if ((*it)->Place().Contains(at)) {
+            return *it;
+        }
+    }
+    return nullptr;
+}
+
+Control* Desktop::ControlAt(const Form& form, Point at)
+{
+    const std::vector<Control*>& controls = form.Controls();
+    const auto hit = [at](const Control* control) {
+        return control->Now().visible && (control->Place().Contains(at) || control->Row().Contains(at)) &&
+               (control->onClick || control->onHover || control->Now().tabStop);
+    };
+    const auto it = std::find_if(controls.rbegin(), controls.rend(), hit);
+    return it == controls.rend() ? nullptr : *it;
+}
+
+void Desktop::SetHovered(Control* control)
+{
+    if (control == hovered_) {
+        return;
+    }
+    for (const Control* touched : {hovered_, control}) {
+        if (touched != nullptr) {
+            MarkDirty(Union(touched->Place(), touched->Row()).Grown(kRingMargin));
+        }
+    }
+    hovered_ = control;
+}
+
+void Desktop::SetPressed(Control* control)
+{
+    for (const Control* touched : {pressed_, control}) {
+        if (touched != nullptr) {
+            MarkDirty(touched->Place().Grown(kRingMargin));
+        }
+    }
+    pressed_ = control;
+}
+
+void Desktop::PointerMove(Point at, const CaretAt& caretAt)
+{
+    TextBox* dragged = pressed_ == nullptr ? nullptr : dynamic_cast<TextBox*>(pressed_);
+    if (dragged != nullptr && caretAt) {
+        const std::size_t offset = caretAt(*dragged, at.x);
+        dragged->Change([offset](TextEdit& edit) { edit.PlaceCaret(offset, true); });
+        return;
+    }
+    const Form* form = FormAt(at);
+    Control* control = form != nullptr && TakesInput(*form) ? ControlAt(*form, at) : nullptr;
+    if (control != nullptr && !control->Now().enabled) {
+        control = nullptr;
+    }
+    const bool entered = control != hovered_;
+    SetHovered(control);
+    if (entered && control != nullptr && control->onHover) {
+        Dispatch(control->onHover);
+    }
+}
+
+void Desktop::PointerLeave()
+{
+    SetHovered(nullptr);
+}
+
+void Desktop::PointerDown(Point at, int clicks, bool shift, const CaretAt& caretAt)
+{
+    Form* form = FormAt(at);
+    pressedForm_ = form != nullptr && TakesInput(*form) ? form : nullptr;
+    Control* control = pressedForm_ == nullptr ? nullptr : ControlAt(*pressedForm_, at);
+    if (control != nullptr && !control->Now().enabled) {
+        pressedForm_ = nullptr;  // a disabled control swallows the click
+        control = nullptr;
+    }
+    SetPressed(control);
+    if (control == nullptr) {
+        return;
+    }
+    if (std::exchange(keyboardUsed_, false) && focus_ != nullptr) {
+        MarkDirty(focus_->Place().Grown(kRingMargin));
+    }
+    if (control->Focusable()) {
+        SetFocus(control);
+    }
+    if (auto* box = dynamic_cast<TextBox*>(control); box != nullptr && caretAt) {
+        const std::size_t offset = caretAt(*box, at.x);
+        box->Change([offset, clicks, shift](TextEdit& edit) {
+            if (clicks >= 3) {
+                edit.SelectAll();
+            } else if (clicks == 2) {
+                edit.SelectWordAt(offset);
+            } else {
+                edit.PlaceCaret(offset, shift);
+            }
+        });
+    }
+}
+
+// A press becomes a click when the pointer is let go over the same control, as everywhere.
+void Desktop::PointerUp(Point at)
+{
+    Control* control = pressed_;
+    Form* form = std::exchange(pressedForm_, nullptr);
+    SetPressed(nullptr);
+    if (form == nullptr || FormAt(at) != form || ControlAt(*form, at) != control) {
+        return;
+    }
+    if (control == nullptr) {
+        Click(*form);
+    } else {
+        Click(*control);
+    }
+}
+
+// Time ------------------------------------------------------------------------------------------------
+
+std::optional<std::int64_t> Desktop::NextDue() const
+{
+    std::optional<std::int64_t> next;
+    for (const Form* form : forms_) {
+        for (const Timer* timer : form->Timers()) {
+            if (timer->Armed() && (!next || timer->Due() < *next)) {
+                next = timer->Due();
+            }
+        }
+    }
+    return next;
+}
+
+// Fires the first of the timers that fall due earliest; those of one moment fire in their forms' order.
+void Desktop::FireNext(std::int64_t until, bool& fired)
+{
+    fired = false;
+    const std::optional<std::int64_t> due = NextDue();
+    if (!due || *due > until) {
+        return;
+    }
+    for (const Form* form : forms_) {
+        for (Timer* timer : form->Timers()) {
+            if (timer->Armed() && timer->Due() == *due) {
+                now_ = std::max(now_, *due);
+                fired = true;
+                Dispatch([timer] { timer->Fire(); });
+                return;
+            }
+        }
+    }
+}
+
+void Desktop::Advance(std::int64_t milliseconds)
+{
+    const std::int64_t until = now_ + milliseconds;
+    bool fired = true;
+    while (fired) {
+        FireNext(until, fired);
+    }
+    now_ = until;
+}
+
+Rect Desktop::TakeDirty()
+{
+    return std::exchange(dirty_, Rect{});
+}
+
+}  // namespace ui

@@ -1,0 +1,158 @@
+// The desktop: which screens are shown, in which order, where the focus is, and what time it is.
+//
+//     ui::Desktop desktop;
+//     FrmName name(desktop);
+//     name.ShowModal();
+//     desktop.Type(name.Text1, "Ada");
+//     desktop.Click(name.Command3);        // nullopt: done; else the reason of the refusal
+//     desktop.Advance(3000);               // three seconds pass; timers fire in due order
+//
+// A front end feeds it the pointer, keys and time, and repaints TakeDirty() when that is not empty.
+// Nothing here blocks, sleeps or reads a clock.
+#pragma once
+
+#include "ui/toolkit/form.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ui {
+
+enum class Key : std::uint8_t {
+    Return,
+    Escape,
+    Tab,
+    Space,
+    Up,
+    Down,
+    Left,
+    Right,
+    Home,
+    End,
+    Backspace,
+    Delete,
+    F1,
+    Digit1,
+    Digit2,
+    Digit3,
+    Digit4,
+    Digit5,
+    Digit6,
+    SelectAll,
+    Copy,
+    Cut,
+    Paste,
+};
+
+struct Modifiers {
+    bool shift = false;
+    bool control = false;
+};
+
+// Why the player cannot do that now; none when it was done.
+using Refusal = std::optional<std::string>;
+
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    // Screens -------------------------------------------------------------------------------------
+    const std::vector<Form*>& Forms() const { return forms_; }  // all that exist
+    const std::vector<Form*>& Shown() const { return shown_; }  // back to front
+    Form* FindForm(std::string_view name) const;
+    Control* FindControl(std::string_view name) const;  // "frmMain.Label5(4)"; null when there is none
+    Form* ModalForm() const;                            // the front modal one, or null
+
+    // What a player does, by name. The rules are those of the pointer: the screen must be shown and
+    // enabled, no other screen modal, the control visible and enabled.
+    Refusal Click(Form& form);
+    Refusal Click(Control& control);
+    Refusal Hover(Form& form);
+    Refusal Hover(Control& control);
+    Refusal Type(TextBox& box, std::string_view text);  // replaces the text
+    void Press(Key key, Modifiers modifiers = {});
+    void EnterText(std::string_view text);  // into the focused text box, if any
+    void Compose(std::string_view text);
+
+    // The pointer, in picture space. CaretAt tells which offset of a box's text lies under x.
+    using CaretAt = std::function<std::size_t(const TextBox&, int x)>;
+    void PointerMove(Point at, const CaretAt& caretAt = {});
+    void PointerDown(Point at, int clicks = 1, bool shift = false, const CaretAt& caretAt = {});
+    void PointerUp(Point at);
+    void PointerLeave();
+
+    Control* Focused() const;
+    bool ShowsFocus() const { return keyboardUsed_; }  // the ring appears once keys are used
+    void SetFocus(Control* control);
+    TextBox* FocusedTextBox() const;
+    const Control* Hovered() const { return hovered_; }
+    const Control* Pressed() const { return pressed_; }
+
+    // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
+    std::function<bool(Key)> onKey;
+
+    // The clipboard of the system; without a front end texts are copied into an own one.
+    std::function<std::string()> getClipboard;
+    std::function<void(const std::string&)> setClipboard;
+
+    // Time ----------------------------------------------------------------------------------------
+    std::int64_t Now() const { return now_; }  // milliseconds since the start
+    void Advance(std::int64_t milliseconds);
+    std::optional<std::int64_t> NextDue() const;  // of the next armed timer
+
+    // Runs a routine as an event: what modal screens left to do afterwards is done before it returns.
+    void Dispatch(const std::function<void()>& event);
+
+    // Painting ------------------------------------------------------------------------------------
+    void MarkDirty(const Rect& rect) { dirty_ = Union(dirty_, Intersection(rect, kSpace)); }
+    bool Dirty() const { return !dirty_.Empty(); }
+    Rect TakeDirty();
+
+private:
+    friend class Form;
+
+    void BringToFront(Form& form);
+    void Remove(Form& form);
+    void AfterEvent(std::function<void()> action) { pending_.push_back(std::move(action)); }
+    void Settle();
+    void FireNext(std::int64_t until, bool& fired);
+
+    Refusal Refused(const Form& form) const;
+    Refusal Refused(const Control& control) const;
+    bool TakesInput(const Form& form) const;
+    Form* FormAt(Point at) const;
+    static Control* ControlAt(const Form& form, Point at);
+    Form* FrontForm() const;
+    void Run(Control& control);
+    void SetHovered(Control* control);
+    void SetPressed(Control* control);
+
+    std::vector<Control*> TabRing() const;
+    void MoveFocus(bool forward);
+    void MoveWithinForm(bool forward);
+    bool PressInTextBox(TextBox& box, Key key, Modifiers modifiers);
+    bool PressOnFocus(Key key);
+    bool PressOnForm(Key key);
+    std::string Clipboard() const;
+
+    std::vector<Form*> forms_;
+    std::vector<Form*> shown_;
+    std::vector<std::function<void()>> pending_;
+    int depth_ = 0;
+    Control* focus_ = nullptr;
+    Control* hovered_ = nullptr;
+    Control* pressed_ = nullptr;
+    Form* pressedForm_ = nullptr;
+    bool keyboardUsed_ = false;
+    std::int64_t now_ = 0;
+    Rect dirty_ = kSpace;
+    std::string ownClipboard_;
+};
+
+}  // namespace ui

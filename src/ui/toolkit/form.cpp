@@ -1,0 +1,125 @@
+#include "ui/toolkit/form.h"
+
+#include "ui/toolkit/desktop.h"
+
+#include <utility>
+
+namespace ui {
+
+namespace {
+
+constexpr int kShadowMargin = 16;  // sheets and their shadows reach beyond the form's place
+
+}  // namespace
+
+Form::Form(Desktop& desktop, const Design& design)
+    : desktop_(desktop), design_(design), name_(design.name), rect_(design.rect), back_(design.back)
+{
+    desktop_.forms_.push_back(this);
+}
+
+Control* Form::Find(std::string_view name) const
+{
+    for (Control* control : controls_) {
+        if (control->Name() == name) {
+            return control;
+        }
+    }
+    return nullptr;
+}
+
+void Form::MarkDirty() const
+{
+    if (visible_) {
+        desktop_.MarkDirty(rect_.Grown(kShadowMargin));
+    }
+}
+
+void Form::SetRect(const Rect& rect)
+{
+    if (rect_ == rect) {
+        return;
+    }
+    MarkDirty();
+    rect_ = rect;
+    MarkDirty();
+}
+
+void Form::SetBack(Color color)
+{
+    if (back_ != color) {
+        back_ = color;
+        MarkDirty();
+    }
+}
+
+void Form::SetEnabled(bool enabled)
+{
+    enabled_ = enabled;
+}
+
+void Form::Load()
+{
+    if (loaded_) {
+        return;
+    }
+    loaded_ = true;
+    if (onLoad) {
+        onLoad();
+    }
+}
+
+void Form::Present(bool modal)
+{
+    Load();
+    modal_ = modal;
+    visible_ = true;
+    desktop_.BringToFront(*this);
+    desktop_.MarkDirty(kSpace);  // a screen that comes or goes may change what others show
+}
+
+void Form::Show()
+{
+    Present(false);
+}
+
+void Form::ShowModal(std::function<void()> afterwards)
+{
+    afterwards_ = std::move(afterwards);
+    Present(true);
+}
+
+void Form::Hide()
+{
+    if (!visible_) {
+        return;
+    }
+    desktop_.MarkDirty(kSpace);
+    visible_ = false;
+    modal_ = false;
+    desktop_.Remove(*this);
+    if (afterwards_) {
+        desktop_.AfterEvent(std::exchange(afterwards_, {}));
+    }
+}
+
+void Form::Unload()
+{
+    afterwards_ = {};
+    Hide();
+    if (!loaded_) {
+        return;
+    }
+    loaded_ = false;
+    enabled_ = true;
+    rect_ = design_.rect;
+    back_ = design_.back;
+    for (Timer* timer : timers_) {
+        timer->SetInterval(0);
+    }
+    for (Control* control : controls_) {
+        control->Reset();
+    }
+}
+
+}  // namespace ui

@@ -1,0 +1,92 @@
+// A screen: a named set of controls and timers that is shown, hidden and unloaded as a whole.
+//
+// A form exists once for the whole run. The first Show after construction or Unload loads it (onLoad);
+// Hide keeps its state; Unload hides it, stops its timers and puts every control back to its design
+// state. A modal form takes all input until it is hidden; what should happen then is handed to ShowModal
+// and runs when the handler that hid the form has returned, so nothing ever blocks.
+#pragma once
+
+#include "ui/toolkit/control.h"
+#include "ui/toolkit/timer.h"
+
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ui {
+
+class Desktop;
+
+class Form {
+public:
+    struct Design {
+        std::string_view name;
+        std::string_view caption{};
+        Rect rect{};
+        std::span<const Decor> decor{};
+        Color back{};           // the ground of a form without a sheet
+        bool opaque = false;    // whether that ground is painted
+        bool backdrop = false;  // always behind all other screens
+    };
+
+    Form(Desktop& desktop, const Design& design);
+    virtual ~Form() = default;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+    const Design& GetDesign() const { return design_; }
+    Desktop& GetDesktop() const { return desktop_; }
+    const std::vector<Control*>& Controls() const { return controls_; }
+    const std::vector<Timer*>& Timers() const { return timers_; }
+    Control* Find(std::string_view name) const;  // null when there is none
+
+    const Rect& Place() const { return rect_; }
+    void SetRect(const Rect& rect);
+    Color Back() const { return back_; }
+    void SetBack(Color color);
+
+    bool Loaded() const { return loaded_; }
+    bool Visible() const { return visible_; }
+    bool Enabled() const { return enabled_; }
+    bool Modal() const { return modal_; }
+    void SetEnabled(bool enabled);
+
+    void Load();
+    void Show();
+    void ShowModal(std::function<void()> afterwards = {});
+    void Hide();
+    void Unload();
+
+    std::function<void()> onLoad;
+    std::function<void()> onClick;  // a click on no control, or on a control without a handler
+
+    // Return presses the default button unless another control has the focus; Escape the cancelling one.
+    Control* defaultButton = nullptr;
+    Control* cancelButton = nullptr;
+    Control* initialFocus = nullptr;
+
+private:
+    friend class Control;
+    friend class Timer;
+
+    void Present(bool modal);
+    void MarkDirty() const;
+
+    Desktop& desktop_;
+    Design design_;
+    std::string name_;
+    std::vector<Control*> controls_;
+    std::vector<Timer*> timers_;
+    Rect rect_;
+    Color back_;
+    bool loaded_ = false;
+    bool visible_ = false;
+    bool enabled_ = true;
+    bool modal_ = false;
+    std::function<void()> afterwards_;
+};
+
+}  // namespace ui
