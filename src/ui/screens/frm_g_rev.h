@@ -1,0 +1,24 @@
+// frmGRev: the guerrillas have come down from the mountains.
+#pragma once
+
+#include "ui/screens/poster.h"
+
+namespace screens {
+
+struct FrmGRev : ui::Form {
+    explicit FrmGRev(ui::Desktop& desktop)
+        : Form(desktop, {.name = "frmGRev", .rect = kPosterSheet, .decor = kPosterDecor})
+    {}
+
+    ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,
+        {.picture = "images/guerrillas.bmp"}};
+    ui::Label Label1{*this, "Label1", {130, 337, 540, 62}, "GUERRILLAS'  REVOLUTION!", look::kPoster};
+    ui::Label Label2{*this, "Label2", {120, 400, 560, 58},
+        "Mr.President , Guerrillas started a revolution and many unhappy people from all the parties joined them! ",
+        look::kPosterText};
+    ui::Label Label3{*this, "Label3", {120, 462, 560, 30}, "", look::kPosterText};
+    ui::CommandButton Command1{*this, "Command1", kPosterLeftButton, "Flee the country!", look::kPosterButton};
+    ui::CommandButton Command2{*this, "Command2", kPosterRightButton, "Stay and fight!", look::kPosterDangerButton};
+};
+
+}  // namespace screens

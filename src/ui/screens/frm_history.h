@@ -1,0 +1,14 @@
+// frmHistory: the running game's figures and what they are worth so far.
+#pragma once
+
+#include "ui/screens/figures_form.h"
+
+namespace screens {
+
+struct FrmHistory : FiguresForm {
+    explicit FrmHistory(ui::Desktop& desktop)
+        : FiguresForm(desktop, "frmHistory", "Mr.President's History and Score")
+    {}
+};
+
+}  // namespace screens

@@ -1,0 +1,24 @@
+// frmNewspaper: the front page of El Faro, a whole picture with one button.
+#pragma once
+
+#include "ui/look/look.h"
+#include "ui/toolkit/form.h"
+
+namespace screens {
+
+inline constexpr ui::Rect kNewspaperPage{20, 58, 760, 532};
+
+struct FrmNewspaper : ui::Form {
+    explicit FrmNewspaper(ui::Desktop& desktop)
+        : Form(desktop, {.name = "frmNewspaper", .rect = kNewspaperPage, .back = look::kBlack, .opaque = true})
+    {
+        initialFocus = &Command1;
+        defaultButton = &Command1;
+    }
+
+    ui::Picture Image1{*this, "Image1", kNewspaperPage, "", look::kPicture};
+    // Every page keeps this corner empty.
+    ui::CommandButton Command1{*this, "Command1", {656, 551, 106, 30}, "Oh!", look::kButton};
+};
+
+}  // namespace screens

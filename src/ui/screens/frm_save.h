@@ -1,0 +1,12 @@
+// frmSave: which slot the game is saved to, and under which name.
+#pragma once
+
+#include "ui/screens/slot_form.h"
+
+namespace screens {
+
+struct FrmSave : SlotForm {
+    explicit FrmSave(ui::Desktop& desktop) : SlotForm(desktop, {"frmSave", "Save Game", "", "Save"}) {}
+};
+
+}  // namespace screens
