@@ -1,0 +1,46 @@
+// The program folder: the one that holds Actions, data, Data, images, sound and Save.
+//
+// It is looked for beside the program, then in the source tree that the program was built from, then in
+// the shared data folder of an installation (../share/quenvale).
+//
+// What the game writes (saved games, the hall of fame) lies there too, if the player may write there. In an
+// installation for all users he may not, and in a source tree he should not, for Data/Top is kept there for
+// everybody: then these files lie in the user's data folder, and where he has none yet the shipped one is
+// read. A folder that somebody names is always used for both.
+//
+//     folder.Path("data/names")         // a shipped file
+//     folder.ReadPath("Data/Top")       // a file that the game writes, as it is now
+//     folder.WritePath("Data/Top")      // where its next version goes
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace files {
+
+class ProgramFolder {
+public:
+    explicit ProgramFolder(std::filesystem::path root) : root_(root), written_(std::move(root)) {}
+    ProgramFolder(std::filesystem::path root, std::filesystem::path written)
+        : root_(std::move(root)), written_(std::move(written))
+    {}
+
+    // The folder the game uses when nobody names one; beside the program when none is found at all.
+    static ProgramFolder Find();
+    // The folder at this place, with the user's data folder beside it when it must not be written.
+    enum class Place { Program, SourceTree };
+    static ProgramFolder At(std::filesystem::path root, Place place);
+
+    const std::filesystem::path& Root() const { return root_; }
+    // The whole path of a file named with '/' below the folder: "sound/click.wav".
+    std::filesystem::path Path(std::string_view file) const { return root_ / file; }
+
+    std::filesystem::path WritePath(std::string_view file) const { return written_ / file; }
+    std::filesystem::path ReadPath(std::string_view file) const;
+
+private:
+    std::filesystem::path root_;
+    std::filesystem::path written_;
+};
+
+}  // namespace files

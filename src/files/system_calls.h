@@ -1,0 +1,29 @@
+// The few calls to the system with which the game writes its files, so that a test can let any of them fail.
+//
+//     files::SystemCalls system;
+//     const int file = system.Open("Save/Save1.new", O_WRONLY | O_CREAT, 0666);
+//
+// As in the system itself, -1 is a failure and errno its reason. An interrupted call is begun again here.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace files {
+
+class SystemCalls {
+public:
+    virtual ~SystemCalls() = default;
+
+    virtual int Open(const char* path, int flags, unsigned mode);
+    virtual std::int64_t Write(int file, const char* data, std::size_t size);  // may write less
+    virtual int Flush(int file);  // to the disk itself; also of an opened folder
+    virtual int Close(int file);
+    virtual int Rename(const char* from, const char* to);
+    virtual int Remove(const char* path);
+    virtual int MakeFolder(const char* path, unsigned mode);
+    virtual int Lock(int file);  // at once, or EWOULDBLOCK; closing the file gives the lock back
+    virtual void Pause(int milliseconds);
+};
+
+}  // namespace files

@@ -1,0 +1,170 @@
+#include "files/written_files.h"
+
+#include <fcntl.h>
+
+#include <cerrno>
+#include <system_error>
+
+namespace files {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr unsigned kFileMode = 0666;  // less what the user's mask takes away
+constexpr unsigned kFolderMode = 0777;
+
+// Another game keeps the lock for a few milliseconds. One that was stopped in the middle keeps it for ever.
+constexpr int kLockTries = 200;
+constexpr int kLockPause = 10;  // milliseconds
+
+FileError Error(std::string_view file, const std::string& what, int reason)
+{
+    return {std::string(file), 0, what + " (" + std::generic_category().message(reason) + ")"};
+}
+
+// Some file systems know no locks. A save without a lock is better than none.
+bool KnowsNoLocks(int reason)
+{
+    return reason == ENOLCK || reason == EOPNOTSUPP || reason == ENOSYS || reason == EINVAL ||
+           reason == EBADF;
+}
+
+fs::path Beside(fs::path path)
+{
+    return path += ".new";
+}
+
+std::string AsideName(std::string_view file, int number)
+{
+    return std::string(file) + ".unreadable" + (number > 1 ? "-" + std::to_string(number) : "");
+}
+
+bool Exists(const fs::path& path)
+{
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error));
+}
+
+}  // namespace
+
+bool WrittenFiles::Has(std::string_view file) const
+{
+    return Exists(folder_.ReadPath(file));
+}
+
+Result<std::vector<Item>> WrittenFiles::Read(std::string_view file) const
+{
+    return ReadItems(folder_.ReadPath(file), file);
+}
+
+Failure WrittenFiles::MakeFolders(const fs::path& folder, std::string_view file) const
+{
+    const fs::path parent = folder.parent_path();
+    if (parent == folder || Exists(folder)) {
+        return std::nullopt;
+    }
+    if (Failure failure = MakeFolders(parent, file)) {
+        return failure;
+    }
+    if (system_.MakeFolder(folder.c_str(), kFolderMode) == -1 && errno != EEXIST) {
+        return Error(file, "its folder cannot be made", errno);
+    }
+    // The new folder's own entry must last as well. Where it does not, the files' folders still hold together.
+    const int opened = system_.Open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+    if (opened != -1) {
+        system_.Flush(opened);
+        system_.Close(opened);
+    }
+    return std::nullopt;
+}
+
+Result<FolderLock> WrittenFiles::Lock(std::string_view file) const
+{
+    const fs::path folder = folder_.WritePath(file).parent_path();
+    if (Failure failure = MakeFolders(folder, file)) {
+        return *failure;
+    }
+    const int opened = system_.Open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+    if (opened == -1) {
+        return Error(file, "its folder cannot be opened", errno);
+    }
+    FolderLock lock(system_, opened);
+    for (int i = 0; i < kLockTries; ++i) {
+        if (system_.Lock(opened) == 0 || KnowsNoLocks(errno)) {
+            return lock;
+        }
+        if (errno != EWOULDBLOCK) {
+            return Error(file, "its folder cannot be locked", errno);
+        }
+        system_.Pause(kLockPause);
+    }
+    return FileError{std::string(file), 0, "another game has kept its folder locked for too long"};
+}
+
+Failure WrittenFiles::WriteBeside(const fs::path& path, std::string_view file, std::string_view content) const
+{
+    system_.Remove(path.c_str());  // what a killed game may have left
+    const int opened =
+        system_.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, kFileMode);
+    if (opened == -1) {
+        return Error(file, "cannot be written", errno);
+    }
+    Failure failure;
+    while (!failure && !content.empty()) {
+        const std::int64_t written = system_.Write(opened, content.data(), content.size());
+        if (written > 0) {
+            content.remove_prefix(static_cast<std::size_t>(written));
+        } else {
+            failure = Error(file, "cannot be written", written == 0 ? ENOSPC : errno);
+        }
+    }
+    if (!failure && system_.Flush(opened) == -1) {
+        failure = Error(file, "cannot be flushed to the disk", errno);
+    }
+    if (system_.Close(opened) == -1 && !failure) {
+        failure = Error(file, "cannot be closed", errno);
+    }
+    return failure;
+}
+
+Failure WrittenFiles::Replace(const FolderLock& lock, std::string_view file, std::string_view content) const
+{
+    const fs::path path = folder_.WritePath(file);
+    const fs::path beside = Beside(path);
+    Failure failure = WriteBeside(beside, file, content);
+    if (!failure && system_.Rename(beside.c_str(), path.c_str()) == -1) {
+        failure = Error(file, "cannot be put in its place", errno);
+    }
+    if (failure) {
+        system_.Remove(beside.c_str());
+        return failure;
+    }
+    // Some file systems cannot flush a folder and need not.
+    if (system_.Flush(lock.Folder()) == -1 && errno != EINVAL) {
+        return Error(file, "is written, but the disk does not confirm it", errno);
+    }
+    return std::nullopt;
+}
+
+Result<std::string> WrittenFiles::KeepAside(const FolderLock& lock, std::string_view file) const
+{
+    const fs::path path = folder_.WritePath(file);
+    if (!Exists(path)) {
+        return std::string();
+    }
+    int number = 1;
+    while (Exists(folder_.WritePath(AsideName(file, number)))) {
+        ++number;
+    }
+    const std::string name = AsideName(file, number);
+    if (system_.Rename(path.c_str(), folder_.WritePath(name).c_str()) == -1) {
+        return Error(file, "cannot be given another name", errno);
+    }
+    if (system_.Flush(lock.Folder()) == -1 && errno != EINVAL) {
+        return Error(file, "has another name, but the disk does not confirm it", errno);
+    }
+    return name;
+}
+
+}  // namespace files

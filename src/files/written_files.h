@@ -1,0 +1,77 @@
+// The files that the game writes: saved games, their names, the hall of fame. Named below the program folder.
+//
+//     files::Result<files::FolderLock> lock = written.Lock("Data/Top");
+//     if (!lock) { Tell(lock.Error().Message()); return; }
+//     ... written.Read("Data/Top") ...
+//     if (files::Failure failure = written.Replace(*lock, "Data/Top", content)) { Tell(failure->Message()); }
+//
+// A file is never changed in place. Its new content is written beside it, flushed to the disk and renamed, so
+// after a kill, a full disk or a broken one the old file or the new one is there, whole. Whoever reads and
+// then writes keeps the folder's lock in between; who only reads needs none.
+#pragma once
+
+#include "files/program_folder.h"
+#include "files/result.h"
+#include "files/system_calls.h"
+#include "files/text_records.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace files {
+
+// Empty when it was done.
+using Failure = std::optional<FileError>;
+
+// Keeps every other game out of a folder's files until it is gone.
+class FolderLock {
+public:
+    FolderLock(SystemCalls& system, int folder) : system_(&system), folder_(folder) {}
+    ~FolderLock()
+    {
+        if (folder_ != kNone) {
+            system_->Close(folder_);
+        }
+    }
+    FolderLock(FolderLock&& other) noexcept
+        : system_(other.system_), folder_(std::exchange(other.folder_, kNone))
+    {}
+    FolderLock& operator=(FolderLock&&) = delete;
+
+    int Folder() const { return folder_; }
+
+private:
+    static constexpr int kNone = -1;
+
+    SystemCalls* system_;
+    int folder_;
+};
+
+class WrittenFiles {
+public:
+    WrittenFiles(const ProgramFolder& folder, SystemCalls& system) : folder_(folder), system_(system) {}
+
+    bool Has(std::string_view file) const;
+    Result<std::vector<Item>> Read(std::string_view file) const;
+
+    // Of the folder in which the file is written; it is made where it is missing.
+    Result<FolderLock> Lock(std::string_view file) const;
+    Failure Replace(const FolderLock& lock, std::string_view file, std::string_view content) const;
+    // Gives a file that cannot be read another name, for whoever can; returns that name. Only a file that the
+    // game would write over is kept so: a shipped one that lies elsewhere gives the empty name.
+    Result<std::string> KeepAside(const FolderLock& lock, std::string_view file) const;
+
+private:
+    Failure MakeFolders(const std::filesystem::path& folder, std::string_view file) const;
+    Failure WriteBeside(const std::filesystem::path& path, std::string_view file,
+                        std::string_view content) const;
+
+    const ProgramFolder& folder_;
+    SystemCalls& system_;
+};
+
+}  // namespace files
