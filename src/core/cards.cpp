@@ -1,0 +1,112 @@
+#include "core/cards.h"
+
+#include "core/group_names.h"
+#include "core/short_text.h"
+#include "files/text_records.h"
+
+#include <limits>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace core {
+
+namespace {
+
+constexpr std::size_t kFigures = 2 * kGroups + 1;
+constexpr std::size_t kCardItems = kFigures + 3;
+constexpr std::size_t kOfferItems = kFigures + 1;
+constexpr std::size_t kQuoted = 24;  // of a wrong item; the whole would not fit the banner
+
+using Items = std::vector<files::Item>;
+
+std::string NameOf(std::size_t figure)
+{
+    if (figure == kFigures - 1) {
+        return "the Americans' hostility";
+    }
+    return (figure < kGroups ? "the strength of the " : "the opposition of the ") +
+           std::string(kGroupNames[figure % kGroups]);
+}
+
+files::Result<Items> ReadItemsOf(const files::ProgramFolder& folder, std::string_view file, std::size_t count)
+{
+    files::Result<Items> items = files::ReadItems(folder.Path(file), file);
+    if (items && items->size() < count) {
+        const int line = items->empty() ? 0 : items->back().line;
+        return files::FileError{std::string(file), line,
+                                "expected " + std::to_string(count) + " items, found " +
+                                    std::to_string(items->size())};
+    }
+    return items;
+}
+
+// Takes the nineteen numbers that begin at item first; the error names the item.
+std::optional<files::FileError> TakeEffects(std::string_view file, std::span<const files::Item> items,
+                                            std::size_t first, Effects& effects)
+{
+    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    for (std::size_t i = 0; i < kFigures; ++i) {
+        const files::Item& item = items[first + i];
+        const std::optional<std::int64_t> number = files::AsInteger(item);
+        if (!number || *number > kMost || *number < -kMost) {
+            return files::FileError{std::string(file), item.line,
+                                    "item " + std::to_string(first + i + 1) + ", " + NameOf(i) +
+                                        ": expected a whole number, found \"" +
+                                        Shortened(item.text, kQuoted) + "\""};
+        }
+        std::int64_t& target = i < kGroups       ? effects.strength[i]
+                               : i < 2 * kGroups ? effects.opposition[i - kGroups]
+                                                 : effects.americanHostility;
+        target = *number;
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+void Apply(const Effects& effects, GameState& state)
+{
+    for (std::size_t g = 0; g < kGroups; ++g) {
+        if (g != Prisoners || state.Population[Prisoners] > 0) {
+            state.Strength[g] += effects.strength[g];
+        }
+        state.Opposition[g] += effects.opposition[g];
+    }
+    state.AmericanHostility += effects.americanHostility;
+}
+
+files::Result<Card> ReadCard(const files::ProgramFolder& folder, std::string_view file)
+{
+    const files::Result<Items> items = ReadItemsOf(folder, file, kCardItems);
+    if (!items) {
+        return items.Error();
+    }
+    Card card;
+    if (const auto error = TakeEffects(file, *items, 0, card.effects)) {
+        return *error;
+    }
+    for (std::size_t i = 0; i < kFigures; ++i) {
+        card.figures[i] = (*items)[i].text;
+    }
+    card.title = (*items)[kFigures].text;
+    card.sideEffects = (*items)[kFigures + 1].text;
+    card.result = (*items)[kFigures + 2].text;
+    return card;
+}
+
+files::Result<Offer> ReadOffer(const files::ProgramFolder& folder, std::string_view file)
+{
+    const files::Result<Items> items = ReadItemsOf(folder, file, kOfferItems);
+    if (!items) {
+        return items.Error();
+    }
+    Offer offer;
+    offer.text = items->front().text;
+    if (const auto error = TakeEffects(file, *items, 1, offer.effects)) {
+        return *error;
+    }
+    return offer;
+}
+
+}  // namespace core
