@@ -1,0 +1,107 @@
+#include "persist/archive.h"
+
+#include "persist/found.h"
+
+#include <utility>
+
+namespace persist {
+
+namespace {
+
+constexpr std::string_view kNames = "Save/names";
+
+std::string SlotFile(std::int64_t slot)
+{
+    return "Save/Save" + std::to_string(slot);
+}
+
+}  // namespace
+
+bool Archive::Used(std::int64_t slot) const
+{
+    return files_.Has(SlotFile(slot));
+}
+
+files::Failure Archive::Save(std::int64_t slot, const core::GameState& state) const
+{
+    const std::string file = SlotFile(slot);
+    const files::Result<files::FolderLock> lock = files_.Lock(file);
+    return lock ? files_.Replace(*lock, file, WriteSavedGame(state)) : lock.Error();
+}
+
+files::Result<core::GameState> Archive::Load(std::int64_t slot, const core::GameState& state) const
+{
+    const std::string file = SlotFile(slot);
+    const files::Result<std::vector<files::Item>> items = files_.Read(file);
+    if (!items) {
+        return items.Error();
+    }
+    return ReadSavedGame(*items, file, state);
+}
+
+files::Result<std::optional<SlotNames>> Archive::Names() const
+{
+    if (!files_.Has(kNames)) {
+        return std::optional<SlotNames>();
+    }
+    const files::Result<std::vector<files::Item>> items = files_.Read(kNames);
+    if (!items) {
+        return items.Error();
+    }
+    if (items->empty()) {
+        return std::optional<SlotNames>();
+    }
+    SlotNames names;
+    for (std::size_t i = 0; i < std::min(items->size(), names.size()); ++i) {
+        const files::Item& item = (*items)[i];
+        if (!item.quoted) {
+            return Unexpected(kNames, item, "the name of slot " + std::to_string(i + 1), "a text in quotes");
+        }
+        names[i] = item.text;
+    }
+    if (std::optional<files::FileError> wrong = WrongCount(kNames, *items, names.size())) {
+        return *wrong;
+    }
+    return std::optional(names);
+}
+
+files::Failure Archive::Prepare() const
+{
+    if (files_.Has(kNames)) {
+        return std::nullopt;
+    }
+    const files::Result<files::FolderLock> lock = files_.Lock(kNames);
+    if (!lock) {
+        return lock.Error();
+    }
+    // Another game may have been quicker.
+    return files_.Has(kNames) ? std::nullopt : files_.Replace(*lock, kNames, "");
+}
+
+files::Failure Archive::SaveNames(const SlotNames& before, const SlotNames& now, std::int64_t slot) const
+{
+    const files::Result<files::FolderLock> lock = files_.Lock(kNames);
+    if (!lock) {
+        return lock.Error();
+    }
+    SlotNames names = now;
+    const files::Result<std::optional<SlotNames>> present = Names();
+    if (present && *present) {
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const bool ours = now[i] != before[i] || i + 1 == static_cast<std::size_t>(slot);
+            names[i] = ours ? now[i] : (**present)[i];
+        }
+    } else if (!present) {
+        if (const files::Result<std::string> aside = files_.KeepAside(*lock, kNames); !aside) {
+            return aside.Error();
+        }
+    }
+    std::string content;
+    for (const std::string& name : names) {
+        content += files::Text(name);
+        content += files::kLineEnd;
+    }
+    return files_.Replace(*lock, kNames, content);
+}
+
+}  // namespace persist

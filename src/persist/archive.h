@@ -1,0 +1,41 @@
+// The archive: five slots of saved games and the names that the player gave them.
+//
+//     persist::Archive archive(files);
+//     if (files::Failure failure = archive.Save(3, state)) { ... }
+//     files::Result<core::GameState> loaded = archive.Load(3, state);
+#pragma once
+
+#include "files/written_files.h"
+#include "persist/saved_game.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+namespace persist {
+
+inline constexpr std::int64_t kSlots = 5;
+using SlotNames = std::array<std::string, kSlots>;
+
+class Archive {
+public:
+    explicit Archive(const files::WrittenFiles& files) : files_(files) {}
+
+    bool Used(std::int64_t slot) const;  // 1..5
+    files::Failure Save(std::int64_t slot, const core::GameState& state) const;
+    // What is not saved is taken from `state`.
+    files::Result<core::GameState> Load(std::int64_t slot, const core::GameState& state) const;
+
+    // None where no names were given yet.
+    files::Result<std::optional<SlotNames>> Names() const;
+    // Makes an empty file of names where there is none, and the archive's folder with it.
+    files::Failure Prepare() const;
+    // Writes the names. Another game may have named its own slot since this one read them (`before`): what was
+    // not changed here stays as it is in the file. A file that cannot be read is kept under another name.
+    files::Failure SaveNames(const SlotNames& before, const SlotNames& now, std::int64_t slot) const;
+
+private:
+    const files::WrittenFiles& files_;
+};
+
+}  // namespace persist
