@@ -1,0 +1,87 @@
+#include "events/action_cards.h"
+
+#include "core/banner.h"
+#include "core/cards.h"
+#include "core/numbers.h"
+#include "core/society.h"
+#include "events/card_effects.h"
+#include "events/card_view.h"
+
+#include <string>
+
+namespace events {
+
+namespace {
+
+constexpr std::string_view kCard = "the card of this action";
+
+std::string CardOf(const core::GameState& state)
+{
+    return "Actions/" + core::Digits(state.ActionChoice);
+}
+
+}  // namespace
+
+ActionCards::ActionCards(core::GameState& state, const files::ProgramFolder& folder,
+                         screens::Screens& screens, media::Sound& sound, Proposals& proposals)
+    : state_(state), folder_(folder), screens_(screens), sound_(sound), proposals_(proposals)
+{
+    screens.frmShow.Command1.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmShow.Hide();
+        screens_.frmActions.Show();
+    };
+    screens.frmShow.Command3.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmShow.Hide();
+        MakeAction();
+    };
+}
+
+void ActionCards::ShowAction()
+{
+    const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
+    if (!card) {
+        TellBadCard(screens_.frmMonthBanner, kCard, card.Error());
+        return;
+    }
+    screens_.frmShow.Show();
+    screens_.frmShow.Label8.SetText("Police report for " + card->title);
+    FillCard(screens_.frmShow, *card);
+}
+
+void ActionCards::MakeAction()
+{
+    const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
+    if (!card) {
+        TellBadCard(screens_.frmMonthBanner, kCard, card.Error());
+        return;
+    }
+    core::Apply(card->effects, state_);
+    core::Say(screens_.frmMonthBanner, card->result);
+    ApplyActionEffect(state_.ActionChoice, state_);
+
+    const auto finish = [this] { FinishAction(); };
+    switch (state_.ActionChoice) {
+    case kSackPoliceChief:
+        newPoliceChief(finish);
+        return;
+    case kSackArmyChief:
+        newArmyChief(finish);
+        return;
+    case kAskForAid:
+        proposals_.AmericanAid();
+        break;
+    default:
+        break;
+    }
+    finish();
+}
+
+void ActionCards::FinishAction()
+{
+    state_.ActionDone.at(static_cast<std::size_t>(std::int64_t{state_.ActionChoice})) = 1;
+    core::FixNum(state_);
+}
+
+}  // namespace events

@@ -1,0 +1,40 @@
+#include "events/card_view.h"
+
+#include "core/banner.h"
+#include "ui/look/look.h"
+
+#include <string>
+
+namespace events {
+
+namespace {
+
+void ShowFigure(ui::Label& label, std::string_view text, std::int64_t value)
+{
+    label.SetText(text);
+    label.SetMark(value > 0 ? ui::Mark::Up : value < 0 ? ui::Mark::Down : ui::Mark::None);
+    label.SetFore(value < 0 ? look::kNegative : look::kInk);
+}
+
+}  // namespace
+
+void FillCard(screens::CardForm& form, const core::Card& card)
+{
+    for (std::size_t g = 0; g < core::kGroups; ++g) {
+        const int row = static_cast<int>(g);
+        ShowFigure(form.lblPER[screens::kCardFirstStrength + row], card.figures[g], card.effects.strength[g]);
+        ShowFigure(form.lblPER[screens::kCardFirstOpposition + row], card.figures[core::kGroups + g],
+                   card.effects.opposition[g]);
+    }
+    ShowFigure(form.lblPER[screens::kCardAmericansOpposition], card.figures.back(),
+               card.effects.americanHostility);
+    form.Label13.SetText(card.sideEffects);
+}
+
+void TellBadCard(screens::FrmMonthBanner& banner, std::string_view what, const files::FileError& error)
+{
+    core::Say(banner, "Mr.President, " + std::string(what) + " cannot be read. " + error.Message() +
+                          ". Nothing was done, which is not always the worst.");
+}
+
+}  // namespace events
