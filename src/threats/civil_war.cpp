@@ -1,0 +1,238 @@
+#include "threats/civil_war.h"
+
+#include "core/banner.h"
+#include "core/society.h"
+#include "threats/civil_war_rules.h"
+#include "threats/uprising.h"
+#include "ui/look/look.h"
+
+#include <string>
+
+namespace threats {
+
+namespace {
+
+constexpr std::int64_t kTheFighting = 7500;  // milliseconds
+constexpr std::int64_t kBeforeTheHall = 6000;
+
+constexpr std::string_view kLost =
+    "Your army lost the battle! Revolutioneries found you hiding in the basement of your mansion. You were "
+    "executed immediately!";
+constexpr std::string_view kWon = "You win! Revolutioneries' leaders were arrested and executed!";
+
+}  // namespace
+
+CivilWar::CivilWar(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
+                   const files::ProgramFolder& folder, screens::Screens& screens, media::Sound& sound,
+                   const core::NumberFormat& format, Flight& flight)
+    : state_(state)
+    , chance_(chance)
+    , monthEnd_(monthEnd)
+    , folder_(folder)
+    , screens_(screens)
+    , sound_(sound)
+    , format_(format)
+{
+    screens.frmChoose.Command1.OnClick([this](int button) { Ask(button); });
+    screens.frmChoose.Command2.onClick = [&flight, &screens] { flight.From(screens.frmChoose); };
+    screens.frmMes2.Command1.onClick = [this] { Never(); };
+    screens.frmMes2.Command2.onClick = [this] { Deal(); };
+    screens.frmMain.Timer3.onTimer = [this] { Timer3_Timer(); };
+}
+
+void CivilWar::StandAgainst(ui::Form& dialog)
+{
+    sound_.SoundClick();
+    dialog.Hide();
+    Choose();
+}
+
+// The ally ------------------------------------------------------------------------------------------------
+
+void CivilWar::Choose()
+{
+    core::UpdateTotalStrength(state_);
+    core::UpdateStrengthShares(state_);
+    screens_.frmChoose.Unload();
+    screens_.frmChoose.Label1.SetText("Mr.President, your personal army Strength is at " +
+                                      core::Digits(state_.StrengthPctPersonalArmy) +
+                                      "% but you can ask help from one of the following parties");
+    ShowCandidates();
+    OfferFlightWhenAlone();
+    screens_.frmChoose.Show();
+}
+
+// Everybody who is not in the revolution.
+void CivilWar::ShowCandidates()
+{
+    screens::FrmChoose& choose = screens_.frmChoose;
+    int button = 0;
+    for (std::size_t n = 1; n <= core::kFactions; ++n) {
+        if (state_.Revolutionaries[n] != 0 || !choose.Command1.Has(button + 1)) {
+            continue;
+        }
+        ++button;
+        const auto faction = static_cast<std::int64_t>(n);
+        choose.Command1[button].SetText(std::string(FactionName(faction)) + " Strength at " +
+                                        format_.Amount(static_cast<double>(state_.StrengthPct[n - 1])) + "%");
+        choose.Command1[button].SetVisible(true);
+        state_.ChoiceFaction.at(static_cast<std::size_t>(button)) = faction;
+    }
+}
+
+void CivilWar::OfferFlightWhenAlone()
+{
+    screens::FrmChoose& choose = screens_.frmChoose;
+    int shown = 0;
+    int askable = 0;
+    for (int button = 1; button < choose.Command1.End(); ++button) {
+        const ui::Control::State& now = choose.Command1[button].Now();
+        shown += now.visible ? 1 : 0;
+        askable += now.visible && now.enabled ? 1 : 0;
+    }
+    choose.Command2.SetVisible(askable == 0);
+    Stretch(askable == 0 ? shown + 1 : shown);
+}
+
+// Makes the dialog a step taller for each button and keeps it in the middle; the last button's place is also
+// that of the way out.
+void CivilWar::Stretch(int buttons)
+{
+    screens::FrmChoose& choose = screens_.frmChoose;
+    ui::Rect sheet = screens::kChooseSheet;
+    sheet.height += buttons * screens::kChooseStep;
+    const int down = (screens::kChooseRoom - sheet.height) / 2;
+    const auto moved = [down](ui::Rect place) {
+        place.top += down;
+        return place;
+    };
+    choose.SetRect(moved(sheet));
+    choose.Label1.SetRect(moved(screens::kChooseText));
+    for (int button = 1; button < choose.Command1.End(); ++button) {
+        choose.Command1[button].SetRect(moved(screens::ChoosePlace(button)));
+    }
+    choose.Command2.SetRect(moved(screens::ChoosePlace(buttons)));
+}
+
+void CivilWar::Ask(int button)
+{
+    sound_.SoundClick();
+    const std::int64_t faction = state_.ChoiceFaction.at(static_cast<std::size_t>(button));
+    const files::Result<core::Offer> offer = ReadOfferOf(faction);
+    if (!offer) {
+        TurnAway(faction, offer.Error());
+        return;
+    }
+    state_.AlliedStrength =
+        state_.Strength[core::GroupOfFaction(faction)] + state_.Strength[core::PersonalArmy];
+    state_.AllyFaction = faction;
+    screens_.frmMes2.Label1.SetText(offer->text);
+    screens_.frmChoose.Hide();
+    screens_.frmMes2.Show();
+}
+
+files::Result<core::Offer> CivilWar::ReadOfferOf(std::int64_t faction) const
+{
+    return core::ReadOffer(folder_, "Actions/R" + core::Digits(faction));
+}
+
+// The dialog lies over the banner, so it repeats what the banner says.
+void CivilWar::TurnAway(std::int64_t faction, const files::FileError& error)
+{
+    screens::FrmChoose& choose = screens_.frmChoose;
+    const std::string refusal = "Mr.President, the " + std::string(FactionName(faction)) +
+                                " cannot be asked. " + error.Message() +
+                                ". We have thanked them all the same.";
+    core::Say(screens_.frmMonthBanner, refusal);
+    choose.Label1.SetText(refusal);
+    for (int button = 1; button < choose.Command1.End(); ++button) {
+        if (state_.ChoiceFaction.at(static_cast<std::size_t>(button)) == faction) {
+            choose.Command1[button].SetEnabled(false);
+        }
+    }
+    OfferFlightWhenAlone();
+}
+
+void CivilWar::Never()
+{
+    sound_.SoundClick();
+    screens_.frmMes2.Hide();
+    screens_.frmChoose.Show();
+}
+
+void CivilWar::Deal()
+{
+    sound_.SoundClick();
+    const files::Result<core::Offer> offer = ReadOfferOf(state_.AllyFaction);
+    if (!offer) {  // it was there a moment ago
+        screens_.frmMes2.Hide();
+        screens_.frmChoose.Show();
+        TurnAway(state_.AllyFaction, offer.Error());
+        return;
+    }
+    core::Apply(offer->effects, state_);
+    PayAlly(state_, state_.AllyFaction);
+    screens_.frmMes2.Unload();
+    screens_.frmChoose.Unload();
+    sound_.SoundRev();
+    screens_.frmMain.Show();
+    core::Say(screens_.frmMonthBanner,
+              "Your strength is " + core::Digits(state_.AlliedStrength) + "! Revolutioneries' strength is " +
+                  core::Digits(state_.RevolutionaryStrength) + "! A small civil war starts.");
+    screens_.frmMain.Timer3.SetInterval(kTheFighting);
+}
+
+// The battle ----------------------------------------------------------------------------------------------
+
+void CivilWar::Timer3_Timer()
+{
+    screens_.frmMain.Timer3.SetInterval(0);
+    if (state_.CoupState == kArmyChiefBeaten || state_.CoupState == kPoliceChiefBeaten) {
+        ReplaceChief();
+    } else {
+        Fight();
+    }
+}
+
+void CivilWar::Fight()
+{
+    screens_.frmMonthBanner.SetBack(look::kBlack);
+    if (BattleIsWon(state_, chance_)) {
+        Win();
+    } else {
+        Lose();
+    }
+}
+
+void CivilWar::Lose()
+{
+    core::Say(screens_.frmMonthBanner, kLost);
+    state_.Dead = 1;
+    screens_.frmMain.Timer4.SetInterval(kBeforeTheHall);
+}
+
+void CivilWar::Win()
+{
+    core::Say(screens_.frmMonthBanner, kWon);
+    PunishRebels(state_, chance_);
+    BuryGuards(state_, chance_);
+    monthEnd_.EndOfTurn2();
+    state_.PoliceNoInfo = 0;
+    if (state_.CoupState == kArmyChiefRebels || state_.CoupState == kPoliceChiefRebels) {
+        state_.CoupState = state_.CoupState == kArmyChiefRebels ? kArmyChiefBeaten : kPoliceChiefBeaten;
+        screens_.frmMain.Timer3.SetInterval(kTheFighting);
+    } else {
+        core::GiveBack(screens_.frmMain);
+    }
+}
+
+void CivilWar::ReplaceChief()
+{
+    const auto& newChief = state_.CoupState == kArmyChiefBeaten ? newArmyChief : newPoliceChief;
+    newChief([this] {
+        core::GiveBack(screens_.frmMain);
+        state_.CoupState = kNoCoup;
+    });
+}
+
+}  // namespace threats

@@ -1,0 +1,58 @@
+#include "threats/flight.h"
+
+#include "core/banner.h"
+#include "threats/revolution_rules.h"
+#include "ui/look/look.h"
+
+namespace threats {
+
+namespace {
+
+constexpr std::size_t kHelicopter = 25;   // the action that buys it
+constexpr std::int64_t kOnTheWay = 5000;  // milliseconds
+constexpr std::int64_t kBeforeTheHall = 6000;
+
+constexpr std::string_view kExecuted =
+    "You were arrested and executed by the Revolutioners! The new goverment announced the day of your death "
+    "national holiday!";
+constexpr std::string_view kEscaped = "Congratulations! You made it alive to the United States!";
+
+}  // namespace
+
+Flight::Flight(core::GameState& state, core::Chance& chance, screens::FrmMain& main,
+               screens::FrmMonthBanner& banner, media::Sound& sound)
+    : state_(state), chance_(chance), main_(main), banner_(banner), sound_(sound)
+{
+    main.Timer2.onTimer = [this] { Timer2_Timer(); };
+}
+
+void Flight::From(ui::Form& dialog)
+{
+    sound_.SoundClick();
+    dialog.Hide();
+    main_.Timer2.SetInterval(kOnTheWay);
+    if (state_.ActionDone[kHelicopter] == 1) {
+        core::Say(banner_, "You try to leave the country, using your escape helicopter.");
+        if (HelicopterEscapes(state_, chance_)) {
+            sound_.SoundHeliOK();
+            state_.Dead = 0;
+        } else {
+            state_.Dead = 1;
+            sound_.SoundHeliNo();
+        }
+    } else {
+        core::Say(banner_, "You try to leave the country on foot!");
+        state_.Dead = WalkEscapes(chance_) ? 0 : 1;
+    }
+    main_.Show();
+}
+
+void Flight::Timer2_Timer()
+{
+    banner_.SetBack(look::kBlack);
+    core::Say(banner_, state_.Dead == 1 ? kExecuted : kEscaped);
+    main_.Timer4.SetInterval(kBeforeTheHall);
+    main_.Timer2.SetInterval(0);
+}
+
+}  // namespace threats

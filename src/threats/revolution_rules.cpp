@@ -1,0 +1,109 @@
+#include "threats/revolution_rules.h"
+
+#include "core/numbers.h"
+#include "core/society.h"
+#include "threats/uprising.h"
+
+#include <string_view>
+#include <vector>
+
+namespace threats {
+
+namespace {
+
+using core::GameState;
+
+constexpr std::int64_t kStartsFromStrength = 30;
+constexpr std::int64_t kStartsAboveOpposition = 65;
+constexpr std::int64_t kJoinsAboveOpposition = 55;
+
+bool Dares(const GameState& state, core::Chance& chance, std::size_t faction, std::int64_t die)
+{
+    const bool hatesEnough = Real(state.Opposition[faction - 1]) / 10 > Real(chance.Between(1, die));
+    return hatesEnough && state.RevolutionWait[faction] == 0;
+}
+
+void DrawJoiners(GameState& state, core::Chance& chance, std::size_t starter)
+{
+    for (std::size_t n = 1; n <= core::kFactions; ++n) {
+        if (n != starter && state.Opposition[n - 1] > kJoinsAboveOpposition && Dares(state, chance, n, 10)) {
+            state.Revolutionaries[n] = 1;
+        }
+    }
+}
+
+std::vector<std::string_view> Joined(const GameState& state)
+{
+    std::vector<std::string_view> names;
+    for (std::size_t n = 1; n <= core::kFactions; ++n) {
+        const auto number = static_cast<std::int64_t>(n);
+        if (state.Revolutionaries[n] == 1 && state.RevolutionStarter != number) {
+            names.push_back(FactionName(number));
+        }
+    }
+    return names;
+}
+
+// " " + " the Workers" + ", Peasants" + " and Police": the first blank stays, so that two stand before "the".
+std::string List(const std::vector<std::string_view>& names)
+{
+    std::string list = " ";
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const bool last = i + 1 == names.size();
+        list += i == 0 ? " the " : last ? " and " : ", ";
+        list += names[i];
+    }
+    return list;
+}
+
+}  // namespace
+
+void DrawRevolution(GameState& state, core::Chance& chance)
+{
+    for (std::size_t n = 1; n <= core::kFactions; ++n) {
+        if (state.Strength[n - 1] >= kStartsFromStrength &&
+            state.Opposition[n - 1] > kStartsAboveOpposition && Dares(state, chance, n, 12)) {
+            state.RevolutionStarter = static_cast<std::int64_t>(n);
+            state.Revolutionaries[n] = 1;
+            DrawJoiners(state, chance, n);
+            return;
+        }
+    }
+}
+
+void MeasureRevolution(GameState& state)
+{
+    for (std::size_t n = 1; n <= core::kFactions; ++n) {
+        if (state.Revolutionaries[n] == 1) {
+            state.RevolutionaryStrength += state.Strength[n - 1];
+        }
+    }
+    core::UpdateTotalStrength(state);
+    state.RevolutionaryPct = core::RoundHalfEven(PercentOf(state.RevolutionaryStrength, state.TotalStrength));
+}
+
+std::string RevolutionMessage(const GameState& state)
+{
+    const std::string starter(FactionName(state.RevolutionStarter));
+    const std::string question =
+        " strength is at " + core::Digits(state.RevolutionaryPct) + "% what do you want to do?";
+    const std::vector<std::string_view> joined = Joined(state);
+    if (joined.empty()) {
+        return "Mr.President, the " + starter + " started a war against you! Their" + question;
+    }
+    return "Revolution started by the " + starter + ", but they were joined by" + List(joined) +
+           "! Revolutioner's" + question;
+}
+
+bool HelicopterEscapes(const GameState& state, core::Chance& chance)
+{
+    const std::int64_t luck = chance.Between(1, 30) + state.Strength[core::PersonalArmy];
+    return Real(state.RevolutionaryStrength) / 10 <= Real(luck);
+}
+
+bool WalkEscapes(core::Chance& chance)
+{
+    return chance.Between(1, 10) == 2;
+}
+
+}  // namespace threats
