@@ -1,0 +1,32 @@
+// The actions screen: what the president can do this month.
+//
+// What cannot be done now is dimmed and has a dash for its sign, but answers a click: with the reason.
+#pragma once
+
+#include "core/game_state.h"
+#include "media/cues.h"
+#include "ui/screens/screens.h"
+
+#include <functional>
+
+namespace instruments {
+
+class Actions {
+public:
+    Actions(core::GameState& state, screens::Screens& screens, media::Sound& sound);
+
+    std::function<void()> showAction;  // the card of ActionChoice
+
+    void Open();
+
+private:
+    void Command1_Click(int index);
+    bool Refused(int index);
+    void MarkThoseRefused();
+
+    core::GameState& state_;
+    screens::Screens& screens_;
+    media::Sound& sound_;
+};
+
+}  // namespace instruments
