@@ -1,0 +1,21 @@
+// The display mode: switched once a run, restored when the player quits.
+#pragma once
+
+#include "core/game_state.h"
+#include "media/host.h"
+
+namespace shell {
+
+class Display {
+public:
+    Display(core::GameState& state, media::Host& host) : state_(state), host_(host) {}
+
+    void SwitchDisplayMode();
+    void RestoreDisplayMode();
+
+private:
+    core::GameState& state_;
+    media::Host& host_;
+};
+
+}  // namespace shell

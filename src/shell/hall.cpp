@@ -1,0 +1,78 @@
+#include "shell/hall.h"
+
+#include "core/banner.h"
+#include "core/start_values.h"
+
+namespace shell {
+
+Hall::Hall(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens,
+           const files::WrittenFiles& files, const core::NumberFormat& format)
+    : state_(state), desktop_(desktop), screens_(screens), hall_(files), format_(format)
+{
+    screens.frmTop102.onClick = [this] {
+        GRestart();
+        screens_.frmTop102.Hide();  // who only looked at the list goes back to his game
+    };
+}
+
+void Hall::TopTen()
+{
+    state_.HallShown = 1;
+    screens_.frmTop102.Show();
+    const persist::HallReport report = hall_.Enter(persist::EntryOf(state_), state_.Dead == 1);
+    ShowList(report.hall);
+    ShowTrouble(report.trouble);
+}
+
+void Hall::See()
+{
+    const files::Result<persist::Hall> list = hall_.Read();
+    if (!list) {
+        core::Say(screens_.frmMonthBanner, "Mr.President, the list of the great cannot be read. " +
+                                               list.Error().Message() + ". They are still great.");
+        return;
+    }
+    screens_.frmTop102.Show();
+    ShowList(*list);
+    ShowTrouble({});
+}
+
+void Hall::ShowList(const persist::Hall& list)
+{
+    for (int i = 0; i < screens::kHallRows; ++i) {
+        screens_.frmTop102.Label1[i].SetText(persist::Sentence(list[static_cast<std::size_t>(i)], format_));
+    }
+}
+
+void Hall::ShowTrouble(const std::string& trouble)
+{
+    screens_.frmTop102.Label3.SetText(trouble);
+    screens_.frmTop102.Label3.SetVisible(!trouble.empty());
+    screens_.frmTop102.Label6.SetVisible(trouble.empty());
+    if (!trouble.empty()) {
+        core::Say(screens_.frmMonthBanner, trouble);
+    }
+}
+
+// Every screen but three belongs to a game. They are unloaded, not hidden: what a dialog would have continued
+// with when it is closed must not run in a game that is over.
+void Hall::GRestart()
+{
+    state_.DisplayModeSet = 1;
+    if (state_.HallShown == 0) {
+        return;
+    }
+    for (ui::Form* form : desktop_.Forms()) {
+        const bool stays =
+            form == &screens_.frmMonthBanner || form == &screens_.frmlogo || form == &screens_.frmStart;
+        if (!stays) {
+            form->Unload();
+        }
+    }
+    screens_.frmStart.Hide();
+    core::ClearBanner(screens_.frmMonthBanner);
+    screens_.frmlogo.Show();
+    core::ClearGame(state_);
+}
+
+}  // namespace shell

@@ -1,0 +1,109 @@
+#include "shell/opening.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace shell {
+
+namespace {
+
+// Where the level button leads from each level, and what it says there.
+struct LevelStep {
+    core::Level next;
+    std::string_view caption;
+};
+constexpr std::array<LevelStep, 3> kLevels{{
+    {core::kNormal, "Level Easy"},
+    {core::kHard, "Level Normal"},
+    {core::kEasy, "Level Hard"},
+}};
+
+// A level that there is none of, from a broken saved game, counts as the hardest.
+const LevelStep& StepFrom(std::int64_t level)
+{
+    return kLevels[static_cast<std::size_t>(std::clamp<std::int64_t>(level, core::kEasy, core::kHard))];
+}
+
+}  // namespace
+
+Opening::Opening(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
+                 Display& display, Manual& manual)
+    : state_(state), screens_(screens), sound_(sound), host_(host), display_(display)
+{
+    screens.frmlogo.onClick = [this] { LeaveTitle(); };
+    screens.frmStart.onLoad = [this] { state_.Difficulty = core::kNormal; };
+    screens.frmStart.Command1.onClick = [this] {
+        sound_.SoundClick();
+        StartGame();
+    };
+    screens.frmStart.Command4.onClick = [this] {
+        sound_.SoundClick();
+        StartGame(loadGame);
+    };
+    screens.frmStart.Command2.onClick = [this] { StepLevel(); };
+    screens.frmStart.Command3.onClick = [this] { Quit(); };
+    screens.frmStart.Command5.onClick = [this, &manual] {
+        sound_.SoundClick();
+        manual.Open();
+    };
+    screens.frmName.Command3.onClick = [this] { TakeName(); };
+    screens.frmAbout.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmAbout.Hide();
+    };
+}
+
+void Opening::ShowTitle()
+{
+    screens_.frmlogo.Show();
+}
+
+void Opening::LeaveTitle()
+{
+    sound_.SoundQuake();
+    sound_.SoundClick();
+    display_.SwitchDisplayMode();
+    ShowStart();
+    screens_.frmlogo.Unload();
+}
+
+void Opening::ShowStart()
+{
+    screens_.frmStart.Load();
+    screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
+    screens_.frmStart.Show();
+}
+
+void Opening::StepLevel()
+{
+    sound_.SoundClick();
+    state_.Difficulty = StepFrom(state_.Difficulty).next;
+    screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
+}
+
+void Opening::StartGame(std::function<void()> afterwards)
+{
+    screens_.frmStart.Hide();
+    screens_.frmMonthBanner.Show();
+    screens_.frmMonthBanner.SetEnabled(false);
+    screens_.frmMain.Show();
+    screens_.frmName.ShowModal(std::move(afterwards));
+}
+
+void Opening::TakeName()
+{
+    state_.PlayerName = screens_.frmName.Text1.Text();
+    screens_.frmName.Hide();
+    screens_.frmName.Unload();
+    sound_.SoundClick();
+}
+
+void Opening::Quit()
+{
+    sound_.SoundClick();
+    display_.RestoreDisplayMode();
+    host_.EndProgram();
+}
+
+}  // namespace shell

@@ -1,0 +1,41 @@
+// The options menu: history, hall of fame, manual, saved games, restart, about, quit.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/numbers.h"
+#include "media/cues.h"
+#include "media/host.h"
+#include "shell/display.h"
+#include "shell/hall.h"
+#include "shell/manual.h"
+#include "shell/saved_games.h"
+#include "ui/screens/screens.h"
+
+namespace shell {
+
+class Options {
+public:
+    Options(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
+            const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
+            Hall& hall);
+
+    void Open();
+    void Label5_Click(int index);
+    void Label5_MouseMove(int index);
+
+private:
+    void NameHistory();
+    void ShowHistory();
+
+    core::GameState& state_;
+    screens::Screens& screens_;
+    media::Sound& sound_;
+    media::Host& host_;
+    const core::NumberFormat& format_;
+    Display& display_;
+    Manual& manual_;
+    SavedGames& savedGames_;
+    Hall& hall_;
+};
+
+}  // namespace shell

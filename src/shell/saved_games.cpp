@@ -1,0 +1,219 @@
+#include "shell/saved_games.h"
+
+#include "core/banner.h"
+#include "shell/figures.h"
+
+#include <string>
+
+namespace shell {
+
+namespace {
+
+constexpr std::string_view kNoSlot =
+    "Mr.President, the archive has five slots and waits until you point at one. Nothing was ";
+
+std::string EmptySlot(std::int64_t slot)
+{
+    return "Mr.President, slot " + core::Digits(slot) +
+           " is empty. Nothing was loaded. It is the tidiest slot we have.";
+}
+
+std::string NotLoaded(const files::FileError& error)
+{
+    return "Mr.President, that game cannot be read. " + error.Message() +
+           ". Nothing was loaded, and nobody has been blamed yet.";
+}
+
+std::string NotSaved(const files::FileError& error)
+{
+    return "Mr.President, your game could not be saved. " + error.Message() +
+           ". No older game was harmed, and the archivist regrets it already.";
+}
+
+std::string NotNamed(const files::FileError& error)
+{
+    return "Mr.President, the game is saved, but not its name. " + error.Message() +
+           ". We shall know it by its slot.";
+}
+
+std::string NamesLost(const files::FileError& error)
+{
+    return "Mr.President, the slots' names cannot be used. " + error.Message() +
+           ". The games themselves are well.";
+}
+
+}  // namespace
+
+SavedGames::SavedGames(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens,
+                       media::Sound& sound, const files::WrittenFiles& files,
+                       const core::NumberFormat& format)
+    : state_(state), desktop_(desktop), screens_(screens), sound_(sound), archive_(files), format_(format)
+{
+    BindSave();
+    BindLoad();
+}
+
+void SavedGames::BindSave()
+{
+    screens::FrmSave& form = screens_.frmSave;
+    for (std::size_t i = 0; i < form.options.size(); ++i) {
+        form.options[i]->onClick = [this, i] { ChooseSaveSlot(i); };
+    }
+    form.Command1.onClick = [this] { SaveUnderName(); };
+    form.Command2.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmSave.Unload();
+    };
+}
+
+void SavedGames::BindLoad()
+{
+    screens::FrmLoad& form = screens_.frmLoad;
+    for (std::size_t i = 0; i < form.options.size(); ++i) {
+        form.options[i]->onClick = [this, i] {
+            sound_.SoundClick();
+            state_.SaveSlot = static_cast<std::int64_t>(i) + 1;
+        };
+    }
+    form.Command1.onClick = [this] {
+        sound_.SoundClick();
+        Load();
+        screens_.frmLoad.Unload();
+    };
+    form.Command2.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmLoad.Unload();
+    };
+}
+
+bool SavedGames::SlotChosen() const
+{
+    return state_.SaveSlot >= 1 && state_.SaveSlot <= persist::kSlots;
+}
+
+// What both screens show at first: the names in the archive, and the slot that was used last.
+void SavedGames::Open(screens::SlotForm& form)
+{
+    form.Unload();
+    form.Show();
+    if (SlotChosen()) {
+        form.options.at(static_cast<std::size_t>(state_.SaveSlot - 1))->SetChosen(true);
+    }
+    const files::Result<std::optional<persist::SlotNames>> names = archive_.Names();
+    if (!names) {
+        Warn(form, NamesLost(names.Error()));
+    } else if (*names) {
+        for (std::size_t i = 0; i < form.names.size(); ++i) {
+            form.names[i]->SetText((**names)[i]);
+        }
+    }
+}
+
+void SavedGames::Warn(screens::SlotForm& form, std::string_view trouble)
+{
+    form.Label2.SetText(trouble);
+    core::Say(screens_.frmMonthBanner, trouble);
+}
+
+void SavedGames::ProSave()
+{
+    const files::Failure failure = archive_.Prepare();
+    Open(screens_.frmSave);
+    AskAgain(false);
+    if (failure) {
+        Warn(screens_.frmSave, NamesLost(*failure));
+    }
+    namesBefore_ = Typed();
+}
+
+persist::SlotNames SavedGames::Typed() const
+{
+    persist::SlotNames names;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        names[i] = screens_.frmSave.names[i]->Text();
+    }
+    return names;
+}
+
+void SavedGames::ChooseSaveSlot(std::size_t slot)
+{
+    sound_.SoundClick();
+    screens::FrmSave& form = screens_.frmSave;
+    for (std::size_t i = 0; i < form.names.size(); ++i) {
+        form.names[i]->SetEnabled(i == slot);
+    }
+    state_.SaveSlot = static_cast<std::int64_t>(slot) + 1;
+    AskAgain(false);
+    desktop_.SetFocus(form.names[slot]);
+}
+
+// A used slot is written over only by a second press of the button, which a key held down does not give.
+void SavedGames::AskAgain(bool ask)
+{
+    screens::FrmSave& form = screens_.frmSave;
+    asked_ = ask;
+    form.Command1.SetText(ask ? "Overwrite?" : "Save");
+    form.defaultButton = ask ? nullptr : &form.Command1;
+}
+
+// The game first, its name behind it: a name must never promise a game that is not there.
+void SavedGames::SaveUnderName()
+{
+    sound_.SoundClick();
+    if (!asked_ && SlotChosen() && archive_.Used(state_.SaveSlot)) {
+        AskAgain(true);
+        desktop_.SetFocus(screens_.frmSave.names.at(static_cast<std::size_t>(state_.SaveSlot - 1)));
+        return;
+    }
+    if (WriteGame()) {
+        const files::Failure failure = archive_.SaveNames(namesBefore_, Typed(), state_.SaveSlot);
+        core::Say(screens_.frmMonthBanner, failure ? NotNamed(*failure) : "Game Saved");
+    }
+    screens_.frmSave.Unload();
+}
+
+void SavedGames::save()
+{
+    WriteGame();
+}
+
+// Tells what went wrong; false then.
+bool SavedGames::WriteGame()
+{
+    if (!SlotChosen()) {
+        core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "saved.");
+        return false;
+    }
+    const files::Failure failure = archive_.Save(state_.SaveSlot, state_);
+    if (failure) {
+        core::Say(screens_.frmMonthBanner, NotSaved(*failure));
+    }
+    return !failure;
+}
+
+void SavedGames::ProLoad()
+{
+    Open(screens_.frmLoad);
+}
+
+void SavedGames::Load()
+{
+    if (!SlotChosen()) {
+        core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "loaded.");
+        return;
+    }
+    if (!archive_.Used(state_.SaveSlot)) {
+        core::Say(screens_.frmMonthBanner, EmptySlot(state_.SaveSlot));
+        return;
+    }
+    const files::Result<core::GameState> loaded = archive_.Load(state_.SaveSlot, state_);
+    if (!loaded) {
+        core::Say(screens_.frmMonthBanner, NotLoaded(loaded.Error()));
+        return;
+    }
+    state_ = *loaded;
+    ShowFigures(screens_.frmGameLoaded, state_, format_, format_.Amount(std::int64_t{state_.Score}));
+    screens_.frmGameLoaded.Show();
+}
+
+}  // namespace shell

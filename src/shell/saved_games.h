@@ -1,0 +1,48 @@
+// The screens of the archive: saving, loading, and what was loaded.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/numbers.h"
+#include "files/written_files.h"
+#include "media/cues.h"
+#include "persist/archive.h"
+#include "ui/screens/screens.h"
+#include "ui/toolkit/desktop.h"
+
+#include <string_view>
+
+namespace shell {
+
+class SavedGames {
+public:
+    SavedGames(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens, media::Sound& sound,
+               const files::WrittenFiles& files, const core::NumberFormat& format);
+
+    void ProSave();  // opens the save screen
+    void save();     // the game into the chosen slot
+    void ProLoad();  // opens the load screen
+    void Load();     // the game of the chosen slot
+
+private:
+    void BindSave();
+    void BindLoad();
+    void Open(screens::SlotForm& form);
+    void Warn(screens::SlotForm& form, std::string_view trouble);
+    void ChooseSaveSlot(std::size_t slot);
+    void SaveUnderName();
+    void AskAgain(bool ask);
+    bool WriteGame();
+    bool SlotChosen() const;
+    persist::SlotNames Typed() const;
+
+    core::GameState& state_;
+    ui::Desktop& desktop_;
+    screens::Screens& screens_;
+    media::Sound& sound_;
+    persist::Archive archive_;
+    const core::NumberFormat& format_;
+    persist::SlotNames namesBefore_;  // as they were when the save screen was opened
+    bool asked_ = false;              // whether the player knows that he writes over a game
+};
+
+}  // namespace shell
