@@ -1,0 +1,91 @@
+#include "platform/event_loop.h"
+
+#include <SDL2/SDL_timer.h>
+
+#include <algorithm>
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+std::int64_t Now()
+{
+    return static_cast<std::int64_t>(SDL_GetTicks64());
+}
+
+}  // namespace
+
+EventLoop::EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painter& painter, Audio& audio)
+    : desktop_(desktop)
+    , host_(host)
+    , window_(window)
+    , painter_(painter)
+    , audio_(audio)
+    , input_(desktop, painter, window)
+    , passed_(Now())
+{}
+
+void EventLoop::LetTimePass()
+{
+    const std::int64_t now = Now();
+    desktop_.Advance(now - passed_);
+    passed_ = now;
+}
+
+int EventLoop::Patience() const
+{
+    std::int64_t wait = std::numeric_limits<int>::max();
+    const std::int64_t since = Now() - passed_;
+    if (const auto due = desktop_.NextDue()) {
+        wait = std::min(wait, *due - desktop_.Now() - since);
+    }
+    if (const auto due = audio_.NextDue()) {
+        wait = std::min(wait, *due - Now());
+    }
+    return wait == std::numeric_limits<int>::max() ? -1 : static_cast<int>(std::max<std::int64_t>(wait, 0));
+}
+
+void EventLoop::Show()
+{
+    if (!window_.Renewed() && !desktop_.Dirty()) {
+        return;
+    }
+    SDL_Surface* surface = window_.Surface();
+    if (surface == nullptr) {
+        return;
+    }
+    const ui::Rect dirty = desktop_.TakeDirty();
+    window_.Present(
+        painter_.Paint(desktop_, *surface, window_.View(), window_.Renewed() ? ui::kSpace : dirty));
+}
+
+// Everything that has come in so far, so that a burst of motion costs one frame.
+void EventLoop::HandleAll(SDL_Event& event)
+{
+    do {
+        if (event.type == SDL_QUIT) {
+            host_.EndProgram();
+        } else {
+            input_.Handle(event);
+            input_.FollowFocus();
+        }
+    } while (!host_.Ended() && SDL_PollEvent(&event) == 1);
+}
+
+void EventLoop::Run()
+{
+    while (!host_.Ended()) {
+        Show();
+        input_.FollowFocus();
+        audio_.Update(Now());  // behind the frame, which the player is waiting for
+        SDL_Event event{};
+        const bool happened = SDL_WaitEventTimeout(&event, Patience()) == 1;
+        LetTimePass();
+        if (happened && !host_.Ended()) {
+            HandleAll(event);
+        }
+    }
+}
+
+}  // namespace platform

@@ -1,0 +1,202 @@
+#include "platform/input.h"
+
+#include <SDL2/SDL_clipboard.h>
+#include <SDL2/SDL_keyboard.h>
+#include <SDL2/SDL_stdinc.h>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+namespace platform {
+
+namespace {
+
+using ui::Key;
+
+enum class When : std::uint8_t {
+    Always,
+    Once,       // not again while it is held down
+    NotTyping,  // once, and in a text box it is a character
+    Control,    // together with the control key
+};
+
+struct KeyRow {
+    SDL_Keycode code;
+    When when;
+    Key key;
+};
+
+constexpr KeyRow kKeys[] = {
+    {SDLK_RETURN, When::Once, Key::Return},    {SDLK_KP_ENTER, When::Once, Key::Return},
+    {SDLK_ESCAPE, When::Once, Key::Escape},    {SDLK_F1, When::Once, Key::F1},
+    {SDLK_TAB, When::Always, Key::Tab},        {SDLK_UP, When::Always, Key::Up},
+    {SDLK_DOWN, When::Always, Key::Down},      {SDLK_LEFT, When::Always, Key::Left},
+    {SDLK_RIGHT, When::Always, Key::Right},    {SDLK_HOME, When::Always, Key::Home},
+    {SDLK_END, When::Always, Key::End},        {SDLK_BACKSPACE, When::Always, Key::Backspace},
+    {SDLK_DELETE, When::Always, Key::Delete},  {SDLK_SPACE, When::NotTyping, Key::Space},
+    {SDLK_1, When::NotTyping, Key::Digit1},    {SDLK_2, When::NotTyping, Key::Digit2},
+    {SDLK_3, When::NotTyping, Key::Digit3},    {SDLK_4, When::NotTyping, Key::Digit4},
+    {SDLK_5, When::NotTyping, Key::Digit5},    {SDLK_6, When::NotTyping, Key::Digit6},
+    {SDLK_KP_1, When::NotTyping, Key::Digit1}, {SDLK_KP_2, When::NotTyping, Key::Digit2},
+    {SDLK_KP_3, When::NotTyping, Key::Digit3}, {SDLK_KP_4, When::NotTyping, Key::Digit4},
+    {SDLK_KP_5, When::NotTyping, Key::Digit5}, {SDLK_KP_6, When::NotTyping, Key::Digit6},
+    {SDLK_a, When::Control, Key::SelectAll},   {SDLK_c, When::Control, Key::Copy},
+    {SDLK_INSERT, When::Control, Key::Copy},   {SDLK_x, When::Control, Key::Cut},
+    {SDLK_v, When::Control, Key::Paste},
+};
+
+// The row's digits give characters on many layouts only together with Shift; the key itself counts then.
+constexpr SDL_Scancode kDigitRow[] = {SDL_SCANCODE_1, SDL_SCANCODE_2, SDL_SCANCODE_3,
+                                      SDL_SCANCODE_4, SDL_SCANCODE_5, SDL_SCANCODE_6};
+
+bool Holds(const SDL_Keysym& key, int modifier)
+{
+    return (key.mod & modifier) != 0;
+}
+
+std::optional<Key> Find(const SDL_KeyboardEvent& event, bool typing)
+{
+    // The right Alt key is reported with Control on some layouts and is no shortcut then.
+    const bool control = Holds(event.keysym, KMOD_CTRL) && !Holds(event.keysym, KMOD_ALT);
+    const bool once = event.repeat == 0;
+    const auto wanted = [&](const KeyRow& row) {
+        return row.code == event.keysym.sym &&
+               (row.when == When::Always || (row.when == When::Once && once) ||
+                (row.when == When::NotTyping && once && !typing) || (row.when == When::Control && control));
+    };
+    const auto* const row = std::find_if(std::begin(kKeys), std::end(kKeys), wanted);
+    if (row != std::end(kKeys)) {
+        return row->key;
+    }
+    const auto* const digit = std::find(std::begin(kDigitRow), std::end(kDigitRow), event.keysym.scancode);
+    if (digit != std::end(kDigitRow) && once && !typing) {
+        return static_cast<Key>(static_cast<int>(Key::Digit1) + (digit - std::begin(kDigitRow)));
+    }
+    return std::nullopt;
+}
+
+std::string FromClipboard()
+{
+    char* text = SDL_GetClipboardText();
+    std::string copy = text == nullptr ? "" : text;
+    SDL_free(text);
+    return copy;
+}
+
+}  // namespace
+
+Input::Input(ui::Desktop& desktop, Painter& painter, Window& window)
+    : desktop_(desktop)
+    , painter_(painter)
+    , window_(window)
+    , caretAt_([this](const ui::TextBox& box, int x) { return painter_.CaretAt(box, x); })
+{
+    desktop_.getClipboard = FromClipboard;
+    desktop_.setClipboard = [](const std::string& text) { SDL_SetClipboardText(text.c_str()); };
+    SDL_StopTextInput();  // SDL starts with it
+}
+
+void Input::HandleKey(const SDL_KeyboardEvent& event)
+{
+    const SDL_Keysym& pressed = event.keysym;
+    const bool altReturn = pressed.sym == SDLK_RETURN && Holds(pressed, KMOD_ALT);
+    if (pressed.sym == SDLK_F11 || altReturn) {
+        if (event.repeat == 0) {
+            window_.ToggleFullScreen();
+        }
+        return;
+    }
+    const ui::Modifiers modifiers{.shift = Holds(pressed, KMOD_SHIFT), .control = Holds(pressed, KMOD_CTRL)};
+    if (pressed.sym == SDLK_INSERT && modifiers.shift) {
+        desktop_.Press(Key::Paste);
+    } else if (pressed.sym == SDLK_DELETE && modifiers.shift) {
+        desktop_.Press(Key::Cut);
+    } else if (const std::optional<Key> key = Find(event, typing_)) {
+        desktop_.Press(*key, modifiers);
+    }
+}
+
+void Input::HandleMotion(int x, int y)
+{
+    const Viewport view = window_.View();
+    if (view.Contains(x, y) || pressed_) {  // a selection may be drawn out beyond the picture
+        desktop_.PointerMove(view.ToPicture(x, y), caretAt_);
+    } else {
+        desktop_.PointerLeave();
+    }
+}
+
+// Presses in the bars beside the picture are dropped; one that began in the picture ends anywhere.
+void Input::HandleButton(const SDL_MouseButtonEvent& event)
+{
+    const Viewport view = window_.View();
+    const ui::Point at = view.ToPicture(event.x, event.y);
+    if (event.button != SDL_BUTTON_LEFT) {
+        return;
+    }
+    if (event.state == SDL_RELEASED) {
+        if (pressed_) {
+            desktop_.PointerUp(at);
+        }
+        pressed_ = false;
+    } else if (view.Contains(event.x, event.y)) {
+        pressed_ = true;
+        desktop_.PointerMove(at, caretAt_);  // a touch comes without having moved there
+        desktop_.PointerDown(at, event.clicks, (SDL_GetModState() & KMOD_SHIFT) != 0, caretAt_);
+    }
+}
+
+void Input::Handle(const SDL_Event& event)
+{
+    switch (event.type) {
+    case SDL_MOUSEMOTION:
+        HandleMotion(event.motion.x, event.motion.y);
+        break;
+    case SDL_MOUSEBUTTONDOWN:
+    case SDL_MOUSEBUTTONUP:
+        HandleButton(event.button);
+        break;
+    case SDL_KEYDOWN:
+        HandleKey(event.key);
+        break;
+    case SDL_TEXTINPUT:
+        desktop_.EnterText(event.text.text);
+        break;
+    case SDL_TEXTEDITING:
+        desktop_.Compose(event.edit.text);
+        break;
+    case SDL_TEXTEDITING_EXT:
+        desktop_.Compose(event.editExt.text);
+        SDL_free(event.editExt.text);
+        break;
+    case SDL_WINDOWEVENT:
+        if (event.window.event == SDL_WINDOWEVENT_LEAVE) {
+            desktop_.PointerLeave();
+        } else if (event.window.event == SDL_WINDOWEVENT_EXPOSED ||
+                   event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
+            window_.Renew();
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void Input::FollowFocus()
+{
+    const ui::TextBox* box = desktop_.FocusedTextBox();
+    const bool typing = box != nullptr;
+    if (typing != typing_) {
+        typing_ = typing;
+        typing ? SDL_StartTextInput() : SDL_StopTextInput();
+    }
+    const ui::Rect caret = typing ? painter_.CaretPlace(*box) : ui::Rect{};
+    if (typing && caret != caret_) {
+        const SDL_Rect place = window_.View().Cover(caret);
+        SDL_SetTextInputRect(&place);
+    }
+    caret_ = caret;
+}
+
+}  // namespace platform

@@ -1,0 +1,48 @@
+// The pictures of the screens, read from BMP files and scaled to the size at which they are shown.
+//
+//     SDL_Surface* picture = pictures.Get("images/title.bmp", 800, 600);
+//     if (picture == nullptr) { ... }      // missing or broken: told once on standard error
+//
+// A large picture is kept only while a screen that shows it is up; after painting, KeepOnly says which
+// those are. Small ones (the menu's keys, the marks) stay.
+#pragma once
+
+#include "files/program_folder.h"
+
+#include <SDL2/SDL_surface.h>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <tuple>
+
+namespace platform {
+
+class Pictures {
+public:
+    explicit Pictures(const files::ProgramFolder& folder) : folder_(folder) {}
+
+    // Width and height in pixels of the surface. The result lives until KeepOnly drops it.
+    SDL_Surface* Get(std::string_view file, int width, int height);
+    void KeepOnly(const std::function<bool(const std::string& file)>& isShown);
+    void Clear() { kept_.clear(); }
+    std::size_t Kept() const { return kept_.size(); }
+
+private:
+    struct Deleter {
+        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+    };
+    using Surface = std::unique_ptr<SDL_Surface, Deleter>;
+
+    Surface Load(const std::string& file) const;
+    void Tell(const std::string& file, const std::string& reason);
+
+    files::ProgramFolder folder_;
+    std::map<std::tuple<std::string, int, int>, Surface> kept_;
+    std::set<std::string> told_;
+};
+
+}  // namespace platform

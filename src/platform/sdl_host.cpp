@@ -1,0 +1,46 @@
+#include "platform/sdl_host.h"
+
+#include "platform/audio.h"
+#include "platform/viewer.h"
+#include "platform/window.h"
+
+namespace platform {
+
+void SdlHost::Attach(Window* window, Audio* audio, const files::ProgramFolder& folder)
+{
+    window_ = window;
+    audio_ = audio;
+    folder_ = folder;
+}
+
+void SdlHost::PlayWave(std::string_view file)
+{
+    if (audio_ != nullptr) {
+        audio_->Play(file);
+    }
+}
+
+void SdlHost::SwitchDisplayMode()
+{
+    if (window_ != nullptr) {
+        window_->EnterFullScreen();
+    }
+}
+
+void SdlHost::RestoreDisplayMode()
+{
+    if (window_ != nullptr) {
+        window_->LeaveFullScreen();
+    }
+}
+
+// In full screen the viewer would come up behind the game.
+void SdlHost::OpenDocument(std::string_view file)
+{
+    if (window_ != nullptr) {
+        window_->LeaveFullScreen();
+        OpenInViewer(folder_.Path(file));
+    }
+}
+
+}  // namespace platform

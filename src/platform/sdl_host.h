@@ -1,0 +1,35 @@
+// The machine as the game sees it, when it runs in a window.
+//
+//     SdlHost host;
+//     Game game(host, folder, ...);        // may already be built: until Run nothing can be heard or seen
+//     return platform::Run(game.GetDesktop(), host, folder);
+#pragma once
+
+#include "files/program_folder.h"
+#include "media/host.h"
+
+namespace platform {
+
+class Audio;
+class Window;
+
+class SdlHost : public media::Host {
+public:
+    void PlayWave(std::string_view file) override;
+    void SwitchDisplayMode() override;
+    void RestoreDisplayMode() override;
+    void OpenDocument(std::string_view file) override;
+    void EndProgram() override { ended_ = true; }
+
+    bool Ended() const { return ended_; }
+    // Null for both when the window is gone.
+    void Attach(Window* window, Audio* audio, const files::ProgramFolder& folder);
+
+private:
+    Window* window_ = nullptr;
+    Audio* audio_ = nullptr;
+    files::ProgramFolder folder_{{}};
+    bool ended_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,90 @@
+#include "platform/window.h"
+
+#include "platform/canvas.h"
+#include "platform/display_mode.h"
+
+#include <SDL2/SDL_hints.h>
+
+#include <stdexcept>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr int kSmallestWidth = 320;
+constexpr int kSmallestHeight = 240;
+
+}  // namespace
+
+Window::Window(Guard& guard) : guard_(guard)
+{
+    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    window_.reset(SDL_CreateWindow("Quenvale", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                   ui::kSpaceWidth, ui::kSpaceHeight, SDL_WINDOW_RESIZABLE));
+    if (!window_) {
+        throw std::runtime_error(SDL_GetError());
+    }
+    SDL_SetWindowMinimumSize(window_.get(), kSmallestWidth, kSmallestHeight);
+}
+
+// The mode goes back before the guard is told that all is well.
+Window::~Window()
+{
+    LeaveFullScreen();
+}
+
+SDL_Surface* Window::Surface()
+{
+    if ((SDL_GetWindowFlags(window_.get()) & (SDL_WINDOW_HIDDEN | SDL_WINDOW_MINIMIZED)) != 0) {
+        return nullptr;
+    }
+    SDL_Surface* surface = SDL_GetWindowSurface(window_.get());
+    if (surface == nullptr || surface->w <= 0 || surface->h <= 0) {
+        return nullptr;
+    }
+    if (surface->w != width_ || surface->h != height_ || surface->pixels != pixels_) {
+        width_ = surface->w;
+        height_ = surface->h;
+        pixels_ = surface->pixels;
+        view_ = Viewport::Fit(width_, height_);
+        canvas_.reset(Canvas::Suits(*surface)
+                          ? nullptr
+                          : SDL_CreateRGBSurfaceWithFormat(0, width_, height_, 32, SDL_PIXELFORMAT_RGB888));
+        SDL_FillRect(surface, nullptr, 0);
+        renewed_ = true;
+    }
+    return canvas_ ? canvas_.get() : surface;
+}
+
+void Window::Present(const SDL_Rect& changed)
+{
+    SDL_Rect area = std::exchange(renewed_, false) ? SDL_Rect{0, 0, width_, height_} : changed;
+    if (area.w <= 0 || area.h <= 0) {
+        return;
+    }
+    if (canvas_) {
+        SDL_Rect place = area;
+        SDL_BlitSurface(canvas_.get(), &area, SDL_GetWindowSurface(window_.get()), &place);
+    }
+    SDL_UpdateWindowSurfaceRects(window_.get(), &area, 1);
+}
+
+void Window::EnterFullScreen()
+{
+    platform::EnterFullScreen(*window_, guard_, before_);
+    Renew();
+}
+
+void Window::LeaveFullScreen()
+{
+    platform::LeaveFullScreen(*window_, guard_, before_);
+    Renew();
+}
+
+void Window::ToggleFullScreen()
+{
+    IsFullScreen(*window_) ? LeaveFullScreen() : EnterFullScreen();
+}
+
+}  // namespace platform

@@ -1,0 +1,66 @@
+// The game's one window: a surface to paint on, and full screen on and off.
+//
+//     Window window(guard);
+//     if (SDL_Surface* surface = window.Surface()) {      // anew for every frame: it changes with the size
+//         const ui::Rect dirty = window.Renewed() ? ui::kSpace : desktop.TakeDirty();
+//         window.Present(painter.Paint(desktop, *surface, window.View(), dirty));
+//     }
+//
+// It is drawn by the processor into shared memory: going through the graphics driver takes three times as
+// long to start and five times the memory, and gains nothing for a picture that seldom changes.
+#pragma once
+
+#include "platform/display_mode.h"
+#include "platform/guard.h"
+#include "platform/viewport.h"
+
+#include <SDL2/SDL_surface.h>
+#include <SDL2/SDL_video.h>
+
+#include <memory>
+
+namespace platform {
+
+class Window {
+public:
+    // SDL's video must be started. Throws std::runtime_error with SDL's reason.
+    explicit Window(Guard& guard);
+    ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    // 32 bits a pixel, of the window's present size; null while it has none (hidden, minimised).
+    SDL_Surface* Surface();
+    // What is on the window is lost or of the wrong size: the next frame must be painted wholly.
+    void Renew() { renewed_ = true; }
+    bool Renewed() const { return renewed_; }
+    void Present(const SDL_Rect& changed);
+    Viewport View() const { return view_; }
+
+    void EnterFullScreen();
+    void LeaveFullScreen();
+    void ToggleFullScreen();
+
+    void SetIcon(SDL_Surface& icon) { SDL_SetWindowIcon(window_.get(), &icon); }
+
+private:
+    struct WindowDeleter {
+        void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+    };
+    struct SurfaceDeleter {
+        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+    };
+
+    Guard& guard_;
+    WindowPlace before_;
+    std::unique_ptr<SDL_Window, WindowDeleter> window_;
+    // Where the window's own surface has another format than we paint in.
+    std::unique_ptr<SDL_Surface, SurfaceDeleter> canvas_;
+    Viewport view_;
+    int width_ = 0;
+    int height_ = 0;
+    const void* pixels_ = nullptr;
+    bool renewed_ = true;
+};
+
+}  // namespace platform

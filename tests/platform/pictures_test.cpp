@@ -1,0 +1,117 @@
+#include "platform/pictures.h"
+
+#include "platform/painter.h"
+#include "platform/scale_picture.h"
+#include "platform/sheet.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using platform::Pictures;
+using test::MakeSurface;
+using test::PixelAt;
+
+void SaveBmp(const test::TemporaryFolder& folder, const char* name, int width, int height)
+{
+    folder.Write(name, "");
+    SDL_SaveBMP(MakeSurface(width, height).get(), folder.Path(name).c_str());
+}
+
+TEST(Pictures, AreRefusedWhenTheyAreMissingOrBroken)
+{
+    test::TemporaryFolder folder;
+    SaveBmp(folder, "good.bmp", 40, 30);
+    const std::string good = folder.Read("good.bmp");
+    const auto with = [&good](std::size_t at, std::string_view bytes) {
+        return std::string(good).replace(at, bytes.size(), bytes);
+    };
+    folder.Write("empty.bmp", "");
+    folder.Write("text.bmp", "This is no picture but a letter of complaint.");
+    folder.Write("head.bmp", good.substr(0, 30));
+    folder.Write("huge.bmp", with(18, "\xFF\xFF\xFF\x7F"));
+    folder.Write("flat.bmp", with(22, std::string_view("\0\0\0\0", 4)));
+    folder.Write("deep.bmp", with(28, "\x63"));
+
+    Pictures pictures{files::ProgramFolder(folder.Path())};
+    ASSERT_NE(pictures.Get("good.bmp", 40, 30), nullptr);
+    for (const char* name :
+         {"missing.bmp", "empty.bmp", "text.bmp", "head.bmp", "huge.bmp", "flat.bmp", "deep.bmp", "."}) {
+        SCOPED_TRACE(name);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(pictures.Get(name, 40, 30), nullptr);
+        EXPECT_EQ(pictures.Get(name, 40, 30), nullptr);
+        EXPECT_EQ(pictures.Get(name, 80, 60), nullptr);
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_NE(told.find(folder.Path(name).string()), std::string::npos) << told;
+        EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
+    }
+}
+
+TEST(Pictures, AreKeptAsLongAsTheyAreShown)
+{
+    test::TemporaryFolder folder;
+    SaveBmp(folder, "large.bmp", 400, 300);
+    SaveBmp(folder, "small.bmp", 20, 20);
+    Pictures pictures{files::ProgramFolder(folder.Path())};
+    SDL_Surface* large = pictures.Get("large.bmp", 400, 300);
+    pictures.Get("small.bmp", 20, 20);
+    pictures.KeepOnly([](const std::string& file) { return file == "large.bmp"; });
+    EXPECT_EQ(pictures.Get("large.bmp", 400, 300), large);
+    pictures.KeepOnly([](const std::string&) { return false; });
+    EXPECT_EQ(pictures.Kept(), 1U);  // the small one is not worth reading again
+}
+
+TEST(Pictures, AMissingOneShowsItsFrameAndCaption)
+{
+    test::TemporaryFolder folder;
+    ui::Desktop desktop;
+    ui::Form form(desktop, {.name = "form", .rect = {0, 0, 400, 300}});
+    const ui::Picture picture(form, "picture", {100, 100, 200, 100}, "A fine view", look::kPicture,
+                              {.picture = "images/none.bmp"});
+    form.Show();
+    const auto surface = MakeSurface(800, 600);
+    platform::Painter painter{files::ProgramFolder(folder.Path())};
+    testing::internal::CaptureStderr();
+    painter.Paint(desktop, *surface, {}, ui::kSpace);
+    EXPECT_FALSE(testing::internal::GetCapturedStderr().empty());
+    EXPECT_EQ(PixelAt(*surface, 100, 150), 0xB97A1CU);
+    EXPECT_EQ(PixelAt(*surface, 299, 150), 0xB97A1CU);
+    int letters = 0;
+    for (int x = 110; x < 290; ++x) {
+        letters += PixelAt(*surface, x, 150) != 0x0B100EU ? 1 : 0;
+    }
+    EXPECT_GT(letters, 10);
+}
+
+TEST(ScalePicture, KeepsAPlainColourAndClearEdges)
+{
+    struct Case {
+        const char* why;
+        int from, to;
+    };
+    for (const Case& c :
+         {Case{"smaller", 112, 34}, {"larger", 34, 112}, {"by little", 100, 99}, {"to a pixel", 50, 1}}) {
+        SCOPED_TRACE(c.why);
+        const test::Surface from(
+            SDL_CreateRGBSurfaceWithFormat(0, c.from, c.from, 32, SDL_PIXELFORMAT_ARGB8888));
+        const test::Surface to(SDL_CreateRGBSurfaceWithFormat(0, c.to, c.to, 32, SDL_PIXELFORMAT_ARGB8888));
+        // The left half is red, the right one clear; the white that nobody sees there must not shine through.
+        SDL_FillRect(from.get(), nullptr, 0x00FFFFFFU);
+        const SDL_Rect left{0, 0, c.from / 2, c.from};
+        SDL_FillRect(from.get(), &left, 0xFFC84020U);
+        platform::ScalePicture(*from, *to);
+        for (int x = 0; x < c.to; ++x) {
+            const std::uint32_t pixel = static_cast<const std::uint32_t*>(to->pixels)[x];
+            if ((pixel >> 24U) > 40U) {
+                EXPECT_NEAR(static_cast<int>((pixel >> 16U) & 0xFFU), 0xC8, 3) << x;
+                EXPECT_NEAR(static_cast<int>((pixel >> 8U) & 0xFFU), 0x40, 3) << x;
+            }
+        }
+        EXPECT_GT(static_cast<const std::uint32_t*>(to->pixels)[0] >> 24U, 100U);
+    }
+}
+
+}  // namespace

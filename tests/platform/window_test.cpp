@@ -1,0 +1,204 @@
+#include "platform/event_loop.h"
+#include "platform/guard.h"
+#include "platform/input.h"
+#include "platform/signals.h"
+#include "platform/viewer.h"
+#include "platform/window.h"
+
+#include "platform/sheet.h"
+
+#include <SDL2/SDL.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <optional>
+
+namespace {
+
+// SDL's dummy driver has windows and surfaces, but no display.
+class WindowTest : public testing::Test {
+protected:
+    WindowTest()
+    {
+        setenv("SDL_VIDEODRIVER", "dummy", 1);
+        unsetenv("DISPLAY");
+        SDL_Init(SDL_INIT_VIDEO);
+        guard_.emplace();
+        window_.emplace(*guard_);
+        input_.emplace(desktop_, painter_, *window_);
+        paper_.Show();
+        window_->Surface();
+    }
+    ~WindowTest() override
+    {
+        input_.reset();
+        window_.reset();
+        SDL_Quit();
+    }
+
+    void Button(Uint32 type, int x, int y, int clicks = 1)
+    {
+        SDL_Event event{};
+        event.type = type;
+        event.button.button = SDL_BUTTON_LEFT;
+        event.button.state = type == SDL_MOUSEBUTTONDOWN ? SDL_PRESSED : SDL_RELEASED;
+        event.button.clicks = static_cast<Uint8>(clicks);
+        event.button.x = x;
+        event.button.y = y;
+        input_->Handle(event);
+    }
+    void Press(SDL_Keycode key, int modifiers = KMOD_NONE, bool repeat = false)
+    {
+        SDL_Event event{};
+        event.type = SDL_KEYDOWN;
+        event.key.keysym.sym = key;
+        event.key.keysym.scancode = SDL_GetScancodeFromKey(key);
+        event.key.keysym.mod = static_cast<Uint16>(modifiers);
+        event.key.repeat = repeat ? 1 : 0;
+        input_->Handle(event);
+        input_->FollowFocus();
+    }
+    void Text(const char* text)
+    {
+        SDL_Event event{};
+        event.type = SDL_TEXTINPUT;
+        SDL_strlcpy(event.text.text, text, sizeof event.text.text);
+        input_->Handle(event);
+    }
+
+    ui::Desktop desktop_;
+    test::PaperScreen paper_{desktop_};
+    files::ProgramFolder assets_{test::Assets()};
+    platform::Painter painter_{assets_};
+    std::optional<platform::Guard> guard_;
+    std::optional<platform::Window> window_;
+    std::optional<platform::Input> input_;
+};
+
+TEST_F(WindowTest, ClicksMapToThePictureAndThoseInTheBarsAreDropped)
+{
+    int clicks = 0;
+    int elsewhere = 0;
+    paper_.button.onClick = [&] { ++clicks; };
+    paper_.onClick = [&] { ++elsewhere; };
+    SDL_SetWindowSize(SDL_GetWindowFromID(1), 1200, 600);  // bars of 200 at the sides
+    SDL_PumpEvents();
+    window_->Renew();
+    ASSERT_NE(window_->Surface(), nullptr);
+    ASSERT_EQ(window_->View().place.x, 200);
+
+    Button(SDL_MOUSEBUTTONDOWN, 300, 300);
+    Button(SDL_MOUSEBUTTONUP, 300, 300);
+    EXPECT_EQ(clicks, 1);
+    Button(SDL_MOUSEBUTTONDOWN, 100, 300);  // in the bar
+    Button(SDL_MOUSEBUTTONUP, 300, 300);
+    EXPECT_EQ(clicks, 1);
+    Button(SDL_MOUSEBUTTONDOWN, 300, 300);  // dragged out of the picture
+    Button(SDL_MOUSEBUTTONUP, 100, 300);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(elsewhere, 0);
+    EXPECT_EQ(desktop_.Pressed(), nullptr);
+}
+
+TEST_F(WindowTest, KeysAreCharactersOnlyInATextBox)
+{
+    std::string used;
+    desktop_.onKey = [&used](ui::Key key) {
+        used += std::to_string(static_cast<int>(key) - static_cast<int>(ui::Key::Digit1) + 1);
+        return true;
+    };
+    EXPECT_FALSE(SDL_IsTextInputActive());
+    Press(SDLK_1);
+    Press(SDLK_KP_3);
+    Press(SDLK_1, KMOD_NONE, true);  // held down
+    EXPECT_EQ(used, "13");
+
+    desktop_.SetFocus(&paper_.box);
+    input_->FollowFocus();
+    EXPECT_TRUE(SDL_IsTextInputActive());
+    Press(SDLK_2);
+    Text("2");
+    Press(SDLK_SPACE);
+    Text(" Ñ");
+    EXPECT_EQ(used, "13");
+    EXPECT_EQ(paper_.box.Text(), "2 Ñ");
+    Press(SDLK_a, KMOD_CTRL);
+    Press(SDLK_x, KMOD_CTRL);
+    EXPECT_EQ(paper_.box.Text(), "");
+    Press(SDLK_v, KMOD_CTRL);
+    Press(SDLK_INSERT, KMOD_SHIFT);
+    EXPECT_EQ(paper_.box.Text(), "2 Ñ2 Ñ");
+    Press(SDLK_a, KMOD_RALT | KMOD_LCTRL);  // a third character of some layouts
+    Text("ą");
+    EXPECT_EQ(paper_.box.Text(), "2 Ñ2 Ñą");
+    Press(SDLK_TAB);
+    EXPECT_FALSE(SDL_IsTextInputActive());
+}
+
+TEST_F(WindowTest, HoldingReturnPressesOnce)
+{
+    int clicks = 0;
+    paper_.button.onClick = [&] { ++clicks; };
+    desktop_.SetFocus(&paper_.button);
+    Press(SDLK_RETURN);
+    Press(SDLK_RETURN, KMOD_NONE, true);
+    EXPECT_EQ(clicks, 1);
+    Press(SDLK_RETURN, KMOD_ALT);  // full screen, not the button
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(WindowTest, TheLoopFiresTimersShowsTheFrameAndEnds)
+{
+    ui::Timer timer(paper_, "timer");
+    platform::SdlHost host;
+    platform::Audio audio(assets_);
+    timer.onTimer = [&] {
+        paper_.value.SetText("1");
+        timer.SetInterval(30);
+        timer.onTimer = [&] { host.EndProgram(); };
+    };
+    timer.SetInterval(20);
+    const Uint64 start = SDL_GetTicks64();
+    platform::EventLoop(desktop_, host, *window_, painter_, audio).Run();
+    const auto passed = static_cast<std::int64_t>(SDL_GetTicks64() - start);
+    EXPECT_GE(passed, 50);
+    EXPECT_GE(desktop_.Now(), passed - 20);  // the desktop's time is the player's
+    EXPECT_FALSE(desktop_.Dirty());
+    const SDL_Surface* surface = window_->Surface();
+    EXPECT_EQ(test::PixelAt(*surface, 23, 430), 0xE2D2A6U);  // the foot strip
+}
+
+TEST(Signals, CallBackInTheGame)
+{
+    std::atomic<int> calls = 0;
+    {
+        const platform::Signals signals([&calls] { ++calls; });
+        std::raise(SIGTERM);
+        for (int i = 0; i < 500 && calls == 0; ++i) {
+            SDL_Delay(2);
+        }
+    }
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(FileUrl, EncodesWhatIsNoPlainCharacter)
+{
+    struct Case {
+        const char* file;
+        const char* url;
+    };
+    const Case cases[] = {
+        {"/usr/share/quenvale/Data/Manual.htm", "file:///usr/share/quenvale/Data/Manual.htm"},
+        {"/home/Ada B/50% #1?/Manual.htm", "file:///home/Ada%20B/50%25%20%231%3F/Manual.htm"},
+        {"/home/Ñandú/Manual.htm", "file:///home/%C3%91and%C3%BA/Manual.htm"},
+        {"/a/./b/../Manual.htm", "file:///a/Manual.htm"},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(platform::FileUrl(c.file), c.url);
+    }
+    EXPECT_EQ(platform::FileUrl("Manual.htm").rfind("file:///", 0), 0U);
+}
+
+}  // namespace
