@@ -1,0 +1,159 @@
+#include "app/game.h"
+
+#include "core/banner.h"
+#include "core/society.h"
+
+#include <utility>
+
+Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, core::NumberFormat format)
+    : Game(host, std::move(folder), std::move(chance), std::move(format),
+           std::make_unique<files::SystemCalls>())
+{}
+
+Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, core::NumberFormat format,
+           std::unique_ptr<files::SystemCalls> system)
+    : host_(host)
+    , folder_(std::move(folder))
+    , system_(std::move(system))
+    , format_(std::move(format))
+    , chance_(std::move(chance))
+{
+    WireMenu();
+    WireMonth();
+    WireEvents();
+    WireShell();
+    WireKeys();
+    ListRoutines();
+}
+
+void Game::Start()
+{
+    opening_.ShowTitle();
+}
+
+void Game::WireMenu()
+{
+    menu_.commands[screens::kMenuActions] = [this] { actions_.Open(); };
+    menu_.commands[screens::kMenuTaxes] = [this] { taxes_.Open(); };
+    menu_.commands[screens::kMenuPolice] = [this] { police_.Open(); };
+    menu_.commands[screens::kMenuArmy] = [this] { army_.Open(); };
+    menu_.commands[screens::kMenuNextMonth] = [this] { monthEnd_.EndOfTurn(); };
+    menu_.commands[screens::kMenuOptions] = [this] { options_.Open(); };
+}
+
+// The month's events in the order in which they are tried.
+void Game::WireMonth()
+{
+    chain_.cia = [this] { proposals_.ShowCia(); };
+    chain_.war = [this] { war_.CheckVictory(); };
+    chain_.prisoners = [this] { revolts_.Prisoners(); };
+    chain_.guerillas = [this] { revolts_.Guerillas(); };
+    chain_.otherwise = [this] { coups_.ChiefCoup(); };
+    coups_.otherwise = [this] { rebellion_.Revolution(); };
+    rebellion_.otherwise = [this] { assassination_.AssasinThink(); };
+    assassination_.otherwise = [this] { surprises_.RandomEvents(); };
+
+    coups_.revolutionStart = [this] { rebellion_.RevolutionStart(); };
+    chain_.assassination = [this] { assassination_.AfterTheWarning(); };
+    chain_.hallOfFame = [this] { hall_.TopTen(); };
+    surprises_.endOfTurn2 = [this] { monthEnd_.EndOfTurn2(); };
+    proposals_.endOfTurn2 = [this] { monthEnd_.EndOfTurn2(); };
+}
+
+void Game::WireShell()
+{
+    opening_.loadGame = [this] { savedGames_.ProLoad(); };
+    chiefs_.armyIn = [this] { intelligence_.ArmyIn(); };
+}
+
+// A new chief is chosen when one is sacked, when the newspaper has told that one is gone, and when one has
+// lost his coup.
+void Game::WireEvents()
+{
+    actions_.showAction = [this] { actionCards_.ShowAction(); };
+
+    using Afterwards = std::function<void()>;
+    const auto newPoliceChief = [this](Afterwards afterwards) {
+        chiefs_.NewPoliceChief(std::move(afterwards));
+    };
+    const auto newArmyChief = [this](Afterwards afterwards) { chiefs_.NewArmyChief(std::move(afterwards)); };
+    actionCards_.newPoliceChief = newPoliceChief;
+    actionCards_.newArmyChief = newArmyChief;
+    newspaper_.newPoliceChief = newPoliceChief;
+    newspaper_.newArmyChief = newArmyChief;
+    civilWar_.newPoliceChief = newPoliceChief;
+    civilWar_.newArmyChief = newArmyChief;
+}
+
+// F1 opens the manual; the digits are the menu's commands.
+void Game::WireKeys()
+{
+    desktop_.onKey = [this](ui::Key key) {
+        if (key == ui::Key::F1) {
+            manual_.Open();
+            return true;
+        }
+        if (key >= ui::Key::Digit1 && key <= ui::Key::Digit6) {
+            const int item = static_cast<int>(key) - static_cast<int>(ui::Key::Digit1);
+            return !desktop_.Click(screens_.frmMain.Label5[item]);
+        }
+        return false;
+    };
+}
+
+void Game::ListRoutines()
+{
+    routines_ = {
+        {"FixNum", [this] { core::FixNum(state_); }},
+        {"EndOfTurn", [this] { monthEnd_.EndOfTurn(); }},
+        {"EndOfTurn2", [this] { monthEnd_.EndOfTurn2(); }},
+        {"Initialize", [this] { newGame_.Initialize(); }},
+        {"CreateChiefs", [this] { newGame_.CreateChiefs(); }},
+        {"frmTaxes.Ref", [this] { taxes_.Ref(); }},
+        {"frmTaxes.Ref2", [this] { taxes_.Ref2(); }},
+        {"frmPolice.Ref", [this] { police_.Ref(); }},
+        {"NewPoliceChief", [this] { chiefs_.NewPoliceChief(); }},
+        {"NewArmyChief", [this] { chiefs_.NewArmyChief(); }},
+        {"ChiefCoup", [this] { coups_.ChiefCoup(); }},
+        {"SwitchDisplayMode", [this] { display_.SwitchDisplayMode(); }},
+        {"RestoreDisplayMode", [this] { display_.RestoreDisplayMode(); }},
+        {"ShowAction", [this] { actionCards_.ShowAction(); }},
+        {"MakeAction", [this] { actionCards_.MakeAction(); }},
+        {"Request", [this] { requests_.Request(); }},
+        {"ShowAction2", [this] { requests_.ShowAction2(); }},
+        {"MakeRequest", [this] { requests_.MakeRequest(); }},
+        {"DontMakeRequest", [this] { requests_.DontMakeRequest(); }},
+        {"RandomEvents", [this] { surprises_.RandomEvents(); }},
+        {"Deal", [this] { proposals_.Deal(); }},
+        {"Never", [this] { proposals_.Never(); }},
+        {"AmericanAid", [this] { proposals_.AmericanAid(); }},
+        {"AssasinThink", [this] { assassination_.AssasinThink(); }},
+        {"AssasinTry", [this] { assassination_.AssasinTry(); }},
+        {"Revolution", [this] { rebellion_.Revolution(); }},
+        {"RevolutionStart", [this] { rebellion_.RevolutionStart(); }},
+        {"Guerillas", [this] { revolts_.Guerillas(); }},
+        {"Prisoners", [this] { revolts_.Prisoners(); }},
+        {"Choose", [this] { civilWar_.Choose(); }},
+        {"CheckVictory", [this] { war_.CheckVictory(); }},
+        {"ArmyIn", [this] { intelligence_.ArmyIn(); }},
+        {"Timer1_Timer", [this] { chain_.Timer1_Timer(); }},
+        {"Timer2_Timer", [this] { flight_.Timer2_Timer(); }},
+        {"Timer3_Timer", [this] { civilWar_.Timer3_Timer(); }},
+        {"Timer4_Timer", [this] { chain_.Timer4_Timer(); }},
+        {"Timer5_Timer", [this] { chain_.Timer5_Timer(); }},
+        {"Timer6_Timer", [this] { chain_.Timer6_Timer(); }},
+        {"TopTen", [this] { hall_.TopTen(); }},
+        {"See", [this] { hall_.See(); }},
+        {"GRestart", [this] { hall_.GRestart(); }},
+        {"ProSave", [this] { savedGames_.ProSave(); }},
+        {"save", [this] { savedGames_.save(); }},
+        {"ProLoad", [this] { savedGames_.ProLoad(); }},
+        {"Load", [this] { savedGames_.Load(); }},
+    };
+}
+
+const std::function<void()>* Game::FindRoutine(std::string_view name) const
+{
+    const auto found = routines_.find(name);
+    return found == routines_.end() ? nullptr : &found->second;
+}

@@ -1,0 +1,135 @@
+// The whole game without a window: it builds the parts and wires them.
+//
+//     Game game(host, files::ProgramFolder::Find(), core::Chance(clock));
+//     game.Start();                                    // the title picture is shown
+//     game.GetDesktop().Click(game.GetScreens().frmlogo);
+//     game.GetDesktop().Advance(3000);
+//
+// A front end needs only the desktop; the record, the chance and the routines are for tests and tools.
+#pragma once
+
+#include "core/chance.h"
+#include "core/game_state.h"
+#include "core/month_chain.h"
+#include "core/month_end.h"
+#include "core/new_game.h"
+#include "core/numbers.h"
+#include "events/action_cards.h"
+#include "events/newspaper.h"
+#include "events/proposals.h"
+#include "events/random_events.h"
+#include "events/requests.h"
+#include "files/program_folder.h"
+#include "files/system_calls.h"
+#include "files/written_files.h"
+#include "instruments/actions.h"
+#include "instruments/bank.h"
+#include "instruments/chiefs.h"
+#include "instruments/coups.h"
+#include "instruments/police_report.h"
+#include "instruments/taxes.h"
+#include "media/cues.h"
+#include "media/host.h"
+#include "shell/army.h"
+#include "shell/display.h"
+#include "shell/hall.h"
+#include "shell/manual.h"
+#include "shell/menu.h"
+#include "shell/opening.h"
+#include "shell/options.h"
+#include "shell/saved_games.h"
+#include "threats/assassination.h"
+#include "threats/civil_war.h"
+#include "threats/flight.h"
+#include "threats/intelligence.h"
+#include "threats/rebellion.h"
+#include "threats/revolts.h"
+#include "threats/war_outcome.h"
+#include "ui/screens/screens.h"
+#include "ui/toolkit/desktop.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+class Game {
+public:
+    Game(media::Host& host, files::ProgramFolder folder, core::Chance chance,
+         core::NumberFormat format = core::NumberFormat::OfUser());
+    // With calls to the system of one's own: a test lets them fail.
+    Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, core::NumberFormat format,
+         std::unique_ptr<files::SystemCalls> system);
+
+    void Start();
+
+    ui::Desktop& GetDesktop() { return desktop_; }
+    screens::Screens& GetScreens() { return screens_; }
+    core::GameState& State() { return state_; }
+    core::Chance& GetChance() { return chance_; }
+    const files::ProgramFolder& Folder() const { return folder_; }
+
+    // The routine of that name ("FixNum", "Timer4_Timer"), or null.
+    const std::function<void()>* FindRoutine(std::string_view name) const;
+
+private:
+    void WireMenu();
+    void WireMonth();
+    void WireEvents();
+    void WireShell();
+    void WireKeys();
+    void ListRoutines();
+
+    media::Host& host_;
+    files::ProgramFolder folder_;
+    std::unique_ptr<files::SystemCalls> system_;
+    files::WrittenFiles written_{folder_, *system_};
+    core::NumberFormat format_;
+    core::Chance chance_;
+    core::GameState state_;
+    ui::Desktop desktop_;
+    screens::Screens screens_{desktop_};
+    media::Sound sound_{host_};
+
+    // The month.
+    core::NewGame newGame_{state_, chance_, folder_, screens_.frmMain, screens_.frmMonthBanner};
+    core::MonthEnd monthEnd_{state_, chance_, screens_.frmMain, screens_.frmMonthBanner};
+    core::MonthChain chain_{state_, screens_.frmMain, screens_.frmMonthBanner};
+
+    // Events and requests.
+    events::Newspaper newspaper_{state_, screens_.frmNewspaper, screens_.frmMain, sound_};
+    events::Proposals proposals_{state_, screens_, sound_, format_, newspaper_};
+    events::Requests requests_{state_, chance_, folder_, screens_, sound_};
+    events::Surprises surprises_{state_, chance_, screens_, sound_, format_, newspaper_, requests_};
+    events::ActionCards actionCards_{state_, folder_, screens_, sound_, proposals_};
+
+    // The threats.
+    threats::Flight flight_{state_, chance_, screens_.frmMain, screens_.frmMonthBanner, sound_};
+    threats::CivilWar civilWar_{state_, chance_, monthEnd_, folder_, screens_, sound_, format_, flight_};
+    threats::Rebellion rebellion_{state_, chance_, screens_, sound_, flight_, civilWar_};
+    threats::Revolts revolts_{state_, screens_, sound_, flight_, civilWar_};
+    threats::Assassination assassination_{state_, chance_, monthEnd_, screens_, sound_};
+    threats::WarOutcome war_{state_, chance_, monthEnd_, screens_};
+    threats::Intelligence intelligence_{state_, screens_.frmArmy, screens_.frmAIN};
+
+    // The shell.
+    shell::Display display_{state_, host_};
+    shell::Manual manual_{folder_, host_, screens_.frmMonthBanner};
+    shell::Opening opening_{state_, screens_, sound_, host_, display_, manual_};
+    shell::ArmyScreen army_{state_, screens_.frmArmy};
+    shell::SavedGames savedGames_{state_, desktop_, screens_, sound_, written_, format_};
+    shell::Hall hall_{state_, desktop_, screens_, written_, format_};
+    shell::Options options_{state_, screens_, sound_, host_, format_, display_, manual_, savedGames_, hall_};
+    shell::Menu menu_{screens_, sound_};
+
+    // The president's instruments.
+    instruments::Actions actions_{state_, screens_, sound_};
+    instruments::Bank bank_{state_, screens_.frmBank, screens_.frmMonthBanner, sound_, format_};
+    instruments::Taxes taxes_{state_, screens_.frmTaxes, bank_, sound_, format_};
+    instruments::PoliceReport police_{state_, screens_.frmPolice, screens_.frmMonthBanner, format_};
+    instruments::Chiefs chiefs_{state_, newGame_, screens_, sound_};
+    instruments::Coups coups_{state_, chance_, screens_.frmMes3, sound_};
+
+    std::map<std::string, std::function<void()>, std::less<>> routines_;
+};

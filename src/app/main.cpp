@@ -1,0 +1,18 @@
+// Quenvale, the program with the window. The whole game is in class Game; SDL is in platform.
+#include "app/game.h"
+#include "platform/program.h"
+
+#include <chrono>
+#include <clocale>
+
+int main()
+{
+    std::setlocale(LC_ALL, "");
+    platform::SdlHost host;
+    const core::Chance::Clock timeOfDay = [] {
+        return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+    };
+    Game game(host, files::ProgramFolder::Find(), core::Chance(timeOfDay));
+    game.Start();
+    return platform::Run(game.GetDesktop(), host, game.Folder());
+}
