@@ -1,0 +1,104 @@
+// Whatever lines the console is sent, each is answered with one JSON object or passed over, and a refused one
+// changes nothing.
+#include "console/session.h"
+#include "demand.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the game writes lands in a folder of the fuzzer's own; it stays there, for the next run of lines.
+class Folder {
+public:
+    Folder() : path_((fs::temp_directory_path() / "quenvale-fuzz-XXXXXX").string())
+    {
+        if (mkdtemp(path_.data()) == nullptr) {
+            throw std::runtime_error("no temporary folder can be made at " + path_);
+        }
+        for (const fs::directory_entry& entry : fs::directory_iterator(files::ProgramFolder::Find().Root())) {
+            const fs::path target = fs::path(path_) / entry.path().filename();
+            if (entry.path().filename() == "images" || entry.path().filename() == "sound") {
+                fs::create_directory_symlink(entry.path(), target);
+            } else {
+                fs::copy(entry.path(), target, fs::copy_options::recursive);
+            }
+        }
+    }
+    ~Folder()
+    {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::string StartLine() const { return "start \"" + path_ + '"'; }
+
+private:
+    std::string path_;
+};
+
+std::string Everything(console::Session& session)
+{
+    std::string all;
+    for (const char* request : {"state", "screen", "timers", "program"}) {
+        all += session.Answer(request).value();
+    }
+    return all;
+}
+
+// The two requests that take a path would leave the fuzzer's folder.
+bool TakesPath(std::string_view line)
+{
+    const auto first = line.find_first_not_of(" \t\r");
+    const std::string_view request = line.substr(std::min(first, line.size()));
+    return request.starts_with("start") || request.starts_with("shot");
+}
+
+std::vector<std::string_view> LinesOf(std::string_view input)
+{
+    constexpr std::size_t kMost = 200;
+    std::vector<std::string_view> lines;
+    while (!input.empty() && lines.size() < kMost) {
+        lines.push_back(input.substr(0, input.find('\n')));
+        input.remove_prefix(std::min(lines.back().size() + 1, input.size()));
+    }
+    return lines;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const Folder folder;
+    console::Session session;
+    session.Answer(folder.StartLine());
+    session.Answer("seed 1");
+
+    // To look at everything takes long: it is done around one line of each input.
+    const std::vector<std::string_view> lines = LinesOf({reinterpret_cast<const char*>(data), size});
+    const std::size_t lookAt = lines.empty() ? 0 : size % lines.size();
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string before = i == lookAt ? Everything(session) : "";
+        const auto answer = session.Answer(TakesPath(lines[i]) ? folder.StartLine() : lines[i]);
+        if (!answer) {
+            continue;
+        }
+        const nlohmann::json reply = nlohmann::json::parse(*answer);
+        Demand(reply.at("ok") == true || reply.at("error").is_string());
+        Demand(reply.at("ok") == true || i != lookAt || Everything(session) == before);
+    }
+    return 0;
+}
