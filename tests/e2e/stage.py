@@ -294,9 +294,9 @@ class Case(unittest.TestCase):
         self.until_shows(game, console, "the title")
         return game, console
 
-    def open_start(self, server):
+    def open_start(self, server, **environment):
         """The start screen, in a window again on a server that has no mode for the game."""
-        game, console = self.open_title(server)
+        game, console = self.open_title(server, **environment)
         game.click(TITLE)
         console.ask("click frmlogo")
         self.until("the game fills the screen", lambda: game.place() == (0, 0, *server.size()))

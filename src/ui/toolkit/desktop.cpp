@@ -167,6 +167,7 @@ Refusal Desktop::Click(Control& control)
 {
     Refusal refusal = Refused(control);
     if (!refusal) {
+        SetKeyboardUsed(false);
         if (control.Focusable()) {
             SetFocus(&control);
         }
@@ -204,6 +205,13 @@ Refusal Desktop::Type(TextBox& box, std::string_view text)
         box.Change([text](TextEdit& edit) { edit.SetText(text); });
     }
     return refusal;
+}
+
+void Desktop::SetKeyboardUsed(bool used)
+{
+    if (std::exchange(keyboardUsed_, used) != used && Focused() != nullptr) {
+        MarkDirty(Focused()->Place().Grown(kRingMargin));
+    }
 }
 
 // The pointer -----------------------------------------------------------------------------------------
@@ -290,9 +298,7 @@ void Desktop::PointerDown(Point at, int clicks, bool shift, const CaretAt& caret
     if (control == nullptr) {
         return;
     }
-    if (std::exchange(keyboardUsed_, false) && focus_ != nullptr) {
-        MarkDirty(focus_->Place().Grown(kRingMargin));
-    }
+    SetKeyboardUsed(false);
     if (control->Focusable()) {
         SetFocus(control);
     }

@@ -88,7 +88,7 @@ public:
     void PointerLeave();
 
     Control* Focused() const;
-    bool ShowsFocus() const { return keyboardUsed_; }  // the ring appears once keys are used
+    bool ShowsFocus() const { return keyboardUsed_; }  // the ring appears with a key, and goes with a click
     void SetFocus(Control* control);
     TextBox* FocusedTextBox() const;
     const Control* Hovered() const { return hovered_; }
@@ -132,6 +132,7 @@ private:
     void Run(Control& control);
     void SetHovered(Control* control);
     void SetPressed(Control* control);
+    void SetKeyboardUsed(bool used);
 
     std::vector<Control*> TabRing() const;
     void MoveFocus(bool forward);

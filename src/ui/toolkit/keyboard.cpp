@@ -228,11 +228,7 @@ void Desktop::Press(Key key, Modifiers modifiers)
     if (TextBox* box = FocusedTextBox(); box != nullptr && PressInTextBox(*box, key, modifiers)) {
         return;
     }
-    const bool wasUsed = keyboardUsed_;
-    keyboardUsed_ = true;
-    if (!wasUsed && Focused() != nullptr) {
-        MarkDirty(Focused()->Place().Grown(kRingMargin));
-    }
+    SetKeyboardUsed(true);
     switch (key) {
     case Key::Tab:
         MoveFocus(!modifiers.shift);
@@ -251,6 +247,7 @@ void Desktop::Press(Key key, Modifiers modifiers)
     if (!PressOnFocus(key) && !PressOnForm(key) && onKey) {
         onKey(key);
     }
+    SetKeyboardUsed(true);  // also when the key has clicked a button for the player
 }
 
 void Desktop::EnterText(std::string_view text)

@@ -55,6 +55,18 @@ TEST_F(Keyboard, TabWalksFromTheFrontScreenToThoseBehind)
     EXPECT_THAT(Walk(Key::Tab, 3), ElementsAre("Command1", "Command2", "Text1")) << "and nothing behind it";
 }
 
+TEST_F(Keyboard, TheRingGoesWithAClickAndStaysWithAKeyThatClicks)
+{
+    bar.Show();
+    desktop.onKey = [this](Key) { return !desktop.Click(bar.items[1]); };
+    Walk(Key::Tab, 1);
+    desktop.Click(bar.items[0]);
+    EXPECT_FALSE(desktop.ShowsFocus());
+    desktop.Press(Key::Digit1);
+    EXPECT_EQ(FocusName(), "Item(1)");
+    EXPECT_TRUE(desktop.ShowsFocus());
+}
+
 TEST_F(Keyboard, TabWithNothingToReachStaysHarmless)
 {
     EXPECT_THAT(Walk(Key::Tab, 1), ElementsAre(""));
