@@ -33,6 +33,20 @@ int WidthOf(TTF_Font* font, const std::string& text)
     return width;
 }
 
+// From the top of a rendered text to its baseline: the font's ascent, or the highest letter where that is higher.
+int BaselineOf(TTF_Font* font, const std::string& text)
+{
+    int above = TTF_FontAscent(font);
+    for (auto it = text.begin(); it != text.end();) {
+        int top = 0;
+        if (TTF_GlyphMetrics32(font, utf8::unchecked::next(it), nullptr, nullptr, nullptr, &top, nullptr) ==
+            0) {
+            above = std::max(above, top);
+        }
+    }
+    return above;
+}
+
 bool Plain(std::string_view text)
 {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c <= '~'; });
@@ -122,6 +136,38 @@ Letters::Runs Letters::Split(std::string_view text, const Type& type)
     return result;
 }
 
+// A letter may reach higher or lower than its font says; each is there whole.
+Mask Letters::Draw(const Runs& runs)
+{
+    struct Part {
+        Surface surface;
+        int left = 0;
+        int baseline = 0;
+    };
+    std::vector<Part> parts;
+    Mask mask;
+    int below = 0;
+    for (const Run& run : runs.runs) {
+        if (run.font == nullptr) {
+            continue;
+        }
+        Part part{Surface(TTF_RenderUTF8_Blended(run.font, run.text.c_str(), {255, 255, 255, 255})), run.left,
+                  BaselineOf(run.font, run.text)};
+        if (part.surface) {
+            mask.baseline = std::max(mask.baseline, part.baseline);
+            below = std::max(below, part.surface->h - part.baseline);
+            parts.push_back(std::move(part));
+        }
+    }
+    mask.width = (runs.width + runs.fine - 1) / runs.fine + 1;
+    mask.height = mask.baseline + below;
+    mask.cover.assign(static_cast<std::size_t>(mask.width) * static_cast<std::size_t>(mask.height), 0);
+    for (const Part& part : parts) {
+        Add(mask, *part.surface, part.left, mask.baseline - part.baseline, runs.fine);
+    }
+    return mask;
+}
+
 double Letters::Width(std::string_view text, const Type& type)
 {
     std::string key = Key(text, type);
@@ -144,27 +190,7 @@ const Mask& Letters::Render(std::string_view text, const Type& type)
         recent_.splice(recent_.begin(), recent_, known->second);
         return recent_.front().mask;
     }
-    const Runs runs = Split(text, type);
-    Mask mask;
-    mask.width = (runs.width + runs.fine - 1) / runs.fine + 1;
-    int below = 0;
-    for (const Run& run : runs.runs) {
-        if (run.font != nullptr) {
-            mask.baseline = std::max(mask.baseline, TTF_FontAscent(run.font));
-            below = std::max(below, TTF_FontHeight(run.font) - TTF_FontAscent(run.font));
-        }
-    }
-    mask.height = mask.baseline + below;
-    mask.cover.assign(static_cast<std::size_t>(mask.width) * static_cast<std::size_t>(mask.height), 0);
-    for (const Run& run : runs.runs) {
-        if (run.font == nullptr) {
-            continue;
-        }
-        const Surface surface(TTF_RenderUTF8_Blended(run.font, run.text.c_str(), {255, 255, 255, 255}));
-        if (surface) {
-            Add(mask, *surface, run.left, mask.baseline - TTF_FontAscent(run.font), runs.fine);
-        }
-    }
+    Mask mask = Draw(Split(text, type));
     kept_ += mask.cover.size();
     recent_.push_front({std::move(key), std::move(mask)});
     byKey_.emplace(recent_.front().key, recent_.begin());

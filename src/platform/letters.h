@@ -60,6 +60,7 @@ private:
     };
 
     Runs Split(std::string_view text, const Type& type);
+    static Mask Draw(const Runs& runs);
 
     Fonts fonts_;
     std::list<Entry> recent_;  // the last used first

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -86,6 +87,38 @@ TEST(Wrap, BalancedLinesAreAsFewAndAboutEquallyLong)
     EXPECT_GT(shortest(balanced), shortest(greedy));
     EXPECT_THAT(balanced, ElementsAre("Mr.President, the Army is busy right now.",
                                       "We are in war in case you didn't notice! . . ."));
+}
+
+// Some letters reach higher or lower than their font says.
+TEST(Letters, NoLetterIsCutOrMovedOffTheBaseline)
+{
+    Letters letters;
+    platform::Fonts fonts;
+    const auto sum = [](const auto& cover) { return std::accumulate(cover.begin(), cover.end(), 0U); };
+    for (const ui::Face face :
+         {ui::Face::Caption, ui::Face::CaptionBold, ui::Face::Body, ui::Face::Typed, ui::Face::Tag}) {
+        for (const int size : {13, 16, 18, 34}) {
+            SCOPED_TRACE(std::to_string(static_cast<int>(face)) + " at " + std::to_string(size));
+            const std::string text = "gÅy,";
+            TTF_Font* font = fonts.Open({face, size});
+            SDL_Surface* whole = TTF_RenderUTF8_Blended(font, text.c_str(), {255, 255, 255, 255});
+            unsigned expected = 0;
+            for (int y = 0; y < whole->h; ++y) {
+                const auto* row = static_cast<const std::uint8_t*>(whole->pixels) + y * whole->pitch;
+                for (int x = 0; x < whole->w; ++x) {
+                    expected += row[x * 4 + 3];
+                }
+            }
+            SDL_FreeSurface(whole);
+            EXPECT_EQ(sum(letters.Render(text, {face, size, 1.0}).cover), expected);
+        }
+    }
+    for (const ui::Face face : {ui::Face::Heading, ui::Face::Tag}) {
+        const platform::Mask& mask = letters.Render("XÅX", {face, 26, 1.0});
+        const auto feet = mask.cover.begin() + static_cast<std::ptrdiff_t>(mask.baseline) * mask.width;
+        EXPECT_EQ(std::accumulate(feet, mask.cover.end(), 0U), 0U);
+        EXPECT_GT(std::accumulate(feet - mask.width, feet, 0U), 1000U);
+    }
 }
 
 TEST(LayOut, TriesTheStylesSizesInOrder)
