@@ -8,9 +8,15 @@
 
 namespace core {
 
-inline void Say(screens::FrmMonthBanner& banner, std::string_view text)
+// A picture belongs to the message that it came with, and goes with the next one.
+inline void Say(screens::FrmMonthBanner& banner, std::string_view text, std::string_view picture = {})
 {
+    const bool pictured = !picture.empty();
     banner.Label1.SetText(text);
+    banner.Label1.SetRect(pictured ? screens::kBannerCaption : screens::kBannerText);
+    banner.Image1.SetPicture(picture);
+    banner.Image1.SetVisible(pictured);
+    banner.Shape1.SetVisible(pictured);
 }
 
 inline void ClearBanner(screens::FrmMonthBanner& banner)

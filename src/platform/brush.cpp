@@ -19,6 +19,16 @@ void PaintMask(Brush& brush, const Mask& mask, double width, ui::Align align, Po
     brush.canvas.Letters(mask, x, view.Y(at.y), color);
 }
 
+void PaintTriangle(Canvas& canvas, PointF top, double halfWidth, double height, ui::Color color)
+{
+    canvas.Polygon(
+        std::array<PointF, 3>{
+            {top, {top.x + halfWidth, top.y + height}, {top.x - halfWidth, top.y + height}}},
+        color);
+}
+
+}  // namespace
+
 void PaintStar(Canvas& canvas, PointF middle, double radius, ui::Color color)
 {
     constexpr double kInner = 0.42;
@@ -30,16 +40,6 @@ void PaintStar(Canvas& canvas, PointF middle, double radius, ui::Color color)
     }
     canvas.Polygon(points, color);
 }
-
-void PaintTriangle(Canvas& canvas, PointF top, double halfWidth, double height, ui::Color color)
-{
-    canvas.Polygon(
-        std::array<PointF, 3>{
-            {top, {top.x + halfWidth, top.y + height}, {top.x - halfWidth, top.y + height}}},
-        color);
-}
-
-}  // namespace
 
 void PaintLine(Brush& brush, std::string_view text, ui::Face face, int size, ui::Align align, PointF baseline,
                ui::Color color)

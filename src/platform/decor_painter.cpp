@@ -52,8 +52,9 @@ void PaintBandTitle(Brush& brush, const BoxF& band, std::string_view title, doub
 {
     const BoxF room{band.left + 16, band.top + lower, band.width - 16 - 52, band.height};
     PaintText(brush, room, title, look::kBandTitle, look::kBandText);
+    const double emblem = std::min(kEmblem, band.height - 4);
     PaintEmblem(brush,
-                {band.Right() - 44, band.top + lower + band.height / 2 - kEmblem / 2, kEmblem, kEmblem});
+                {band.Right() - 10 - emblem, band.top + lower + (band.height - emblem) / 2, emblem, emblem});
 }
 
 // The red band at a sheet's top, whose corners are the sheet's.
@@ -227,6 +228,17 @@ void PaintSeal(Brush& brush, const ui::Form&, const Decor&, const BoxF& box)
     PaintEmblem(brush, box);
 }
 
+void PaintStarDecor(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& box)
+{
+    PaintStar(brush.canvas, {box.MiddleX(), box.MiddleY()}, box.width / 2, decor.color);
+}
+
+void PaintBorder(Brush& brush, const ui::Form&, const Decor&, const BoxF& box)
+{
+    brush.canvas.Frame(box, 2, 1.5, look::kStampRed);
+    brush.canvas.Frame(box.Grown(-4), 1, 1, look::kRule);
+}
+
 // In the order of ui::Decor::Kind.
 using Paint = void (*)(Brush&, const ui::Form&, const Decor&, const BoxF&);
 constexpr Paint kPaints[] = {
@@ -248,6 +260,8 @@ constexpr Paint kPaints[] = {
     PaintDoubleRule,
     PaintHairline,
     PaintSeal,
+    PaintStarDecor,
+    PaintBorder,
     [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) { b.canvas.Fill(box, d.color); },
 };
 static_assert(std::size(kPaints) == static_cast<std::size_t>(Kind::Fill) + 1);

@@ -12,6 +12,8 @@ constexpr std::size_t kHelicopter = 25;   // the action that buys it
 constexpr std::int64_t kOnTheWay = 5000;  // milliseconds
 constexpr std::int64_t kBeforeTheHall = 6000;
 
+constexpr std::string_view kByHelicopter = "images/flight.bmp";
+constexpr std::string_view kOnFoot = "images/walk.bmp";
 constexpr std::string_view kExecuted =
     "You were arrested and executed by the Revolutioners! The new goverment announced the day of your death "
     "national holiday!";
@@ -32,7 +34,7 @@ void Flight::From(ui::Form& dialog)
     dialog.Hide();
     main_.Timer2.SetInterval(kOnTheWay);
     if (state_.ActionDone[kHelicopter] == 1) {
-        core::Say(banner_, "You try to leave the country, using your escape helicopter.");
+        core::Say(banner_, "You try to leave the country, using your escape helicopter.", kByHelicopter);
         if (HelicopterEscapes(state_, chance_)) {
             sound_.SoundHeliOK();
             state_.Dead = 0;
@@ -41,7 +43,7 @@ void Flight::From(ui::Form& dialog)
             sound_.SoundHeliNo();
         }
     } else {
-        core::Say(banner_, "You try to leave the country on foot!");
+        core::Say(banner_, "You try to leave the country on foot!", kOnFoot);
         state_.Dead = WalkEscapes(chance_) ? 0 : 1;
     }
     main_.Show();

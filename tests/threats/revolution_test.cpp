@@ -160,10 +160,14 @@ TEST(Flight, DependsOnWingsGuardsAndTheDraw)
             EXPECT_EQ(game.Banner(), "You try to leave the country on foot!");
             EXPECT_THAT(game.TakeSounds(), ElementsAre("sound/click.wav"));
         }
+        const ui::Picture& picture = game.Screens().frmMonthBanner.Image1;
+        EXPECT_TRUE(picture.Now().visible);
+        EXPECT_EQ(picture.Now().picture, c.helicopter == 1 ? "images/flight.bmp" : "images/walk.bmp");
         game.Wait(4999);
         EXPECT_EQ(game.BannerBack(), look::kRed);
         game.Wait(1);
         EXPECT_EQ(game.BannerBack(), look::kBlack);
+        EXPECT_FALSE(picture.Now().visible) << "it goes with the next message";
         EXPECT_EQ(game.Banner(),
                   c.escapes
                       ? "Congratulations! You made it alive to the United States!"

@@ -65,6 +65,7 @@ def _scenes():
         Picture('coup', 'Coup', 620, 250, scene_battles.coup, filters),
         Picture('war', 'The war is over', 620, 250, scene_battles.war, filters),
         Picture('flight', 'Flight', 620, 250, scene_battles.flight, filters),
+        Picture('walk', 'Flight on foot', 620, 250, scene_battles.walk, filters),
         Picture('civilwar', 'Civil war', 620, 160, scene_battles.civil_war, filters),
         Picture('assassination', 'Attempt on the president', 495, 150, scene_plots.assassination, filters),
         Picture('plotters', 'The plotters', 495, 150, scene_plots.plotters, filters),

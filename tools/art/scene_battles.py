@@ -3,7 +3,7 @@ from machines import helicopter, tank
 from palace import DAY, NIGHT, palace
 from palette import CREAM, INK, MAROON, OCHRE, OCHRE2, RED, RED2, SEA, SHADE, SKIN, SKIN2, SUN, TEAL, TEAL2, TEAL3
 from people import crowd, dark_glasses, officers_cap, soldier, waver
-from scenery import plume
+from scenery import palm, plume
 from svg import circle, fmt, group, layers, path, placed, polygon, rect, ring, stroke
 from texture import disc_dots, dots, glow, grain, rays
 
@@ -115,11 +115,48 @@ def flight():
         group('palace', placed(404, 120, palace(NIGHT), scale=.5)),
         group('helicopter', placed(180, 78, helicopter(INK), scale=1.8, rotate=-6)),
         _rope_ladder(),
-        group('banknotes', *(placed(x, y, rect(-10, -5.5, 20, 11, CREAM, stroke=INK, stroke_width=1.6),
-                                    circle(0, 0, 3, RED), rotate=turn) for x, y, turn in banknotes)),
+        group('banknotes', *(placed(x, y, _banknote(), rotate=turn) for x, y, turn in banknotes)),
         crowd(-10, 640, 216, 1.1, MAROON, 31, fists=.6, flags=.08, flag_fill=RED, step=17),
         crowd(-10, 640, 238, 1.6, INK, 38, fists=.55, step=22),
         grain(WIDTH, HEIGHT, .15, .05))
+
+
+def walk():
+    """The president leaves on foot, with as much of the treasury as he can carry."""
+    banknotes = ((318, 150, -24), (352, 128, 16), (386, 160, 50), (340, 196, 8), (420, 142, -40), (300, 206, 34))
+    return layers(
+        rect(0, 0, WIDTH, HEIGHT, TEAL3), circle(150, 96, 210, '#12363A'), circle(150, 96, 150, '#1B4A4C'),
+        glow(WIDTH, HEIGHT, 150, 96, 8, 4.2, 76, SEA, .6),
+        circle(150, 92, 62, CREAM), disc_dots(150, 92, 60, 7, lambda x, y: (x - 140) / 20, SHADE),
+        group('palace', placed(448, 92, palace(NIGHT), scale=.36)),
+        crowd(408, 640, 178, .8, MAROON, 12, fists=.7, flags=.1, flag_fill=RED, step=15),
+        path('M0,206 C140,176 330,208 620,188 V250 H0 Z', TEAL2),
+        path('M0,226 C150,206 380,236 620,206 V250 H0 Z', INK),
+        palm(60, 236, 150, 26, 46, INK, 5), palm(22, 240, 96, -14, 34, INK, 9),
+        group('president', placed(246, 220, _runner())),
+        group('banknotes', *(placed(x, y, _banknote(), rotate=turn) for x, y, turn in banknotes)),
+        grain(WIDTH, HEIGHT, .15, .05))
+
+
+def _banknote():
+    return layers(rect(-10, -5.5, 20, 11, CREAM, stroke=INK, stroke_width=1.6), circle(0, 0, 3, RED))
+
+
+def _runner():
+    """The president in a hurry, facing left; feet at y=0, 112 high."""
+    def limb(data, width):
+        return stroke(data, INK, width, stroke_linecap='round', stroke_linejoin='round')
+    return layers(
+        limb('M4,-46 L24,-28 L46,-26 L50,-34', 11),
+        limb('M0,-46 L-24,-38 L-28,-8 L-40,-6', 11),
+        limb('M2,-78 L20,-62 L34,-56', 9),
+        rect(22, -56, 38, 27, OCHRE2, 3, stroke=INK, stroke_width=3), rect(22, -46, 38, 4, INK),
+        path('M-18,-84 C-10,-90 4,-88 10,-80 L16,-44 C8,-38 -4,-38 -10,-42 Z', INK),
+        path('M-14,-86 L-6,-88 L13,-48 L5,-46 Z', RED),
+        limb('M-10,-80 L-30,-66 L-42,-78', 9),
+        circle(-14, -97, 10, INK),
+        path('M-29,-101 C-30,-116 4,-117 1,-102 L-1,-97 L-27,-98 Z', INK),
+        path('M-29,-101 L1,-102 L0,-99 L-28,-98 Z', SUN), path('M-27,-98 L-36,-94 L-24,-95 Z', INK))
 
 
 def _rope_ladder():

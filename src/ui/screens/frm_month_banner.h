@@ -8,13 +8,19 @@
 
 namespace screens {
 
+// Five lines at 34 pixels fill this place; a longer text is set one step smaller.
+inline constexpr ui::Rect kBannerText{70, 191, 660, 270};
+// Below the picture that some messages come with.
+inline constexpr ui::Rect kBannerCaption{70, 352, 660, 132};
+
 struct FrmMonthBanner : ui::Form {
     explicit FrmMonthBanner(ui::Desktop& desktop)
         : Form(desktop, {.name = "frmMonthBanner", .rect = ui::kSpace, .back = look::kBlack, .opaque = true, .backdrop = true})
     {}
 
-    // Five lines at 34 pixels fill this place; a longer text is set one step smaller.
-    ui::Label Label1{*this, "Label1", {70, 191, 660, 270}, "You are in power for 10 months", look::kBanner};
+    ui::Label Label1{*this, "Label1", kBannerText, "You are in power for 10 months", look::kBanner};
+    ui::Shape Shape1{*this, "Shape1", {87, 75, 626, 256}, "", look::kShape, {.visible = false, .back = look::kPaper}};
+    ui::Picture Image1{*this, "Image1", {90, 78, 620, 250}, "", look::kPicture, {.visible = false}};
 };
 
 }  // namespace screens

@@ -11,8 +11,9 @@ namespace screens {
 inline constexpr ui::Rect kStartPanel{540, 84, 236, 452};
 inline constexpr std::array kStartDecor{
     ui::Decor{ui::Decor::Kind::PaperSheet, kStartPanel},
-    ui::Decor{ui::Decor::Kind::Seal, {613, 101, 90, 90}},
-    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {574, 265, 168, 2}, .color = look::kBrass},
+    ui::Decor{ui::Decor::Kind::Border, {548, 92, 220, 436}},
+    ui::Decor{ui::Decor::Kind::Seal, {619, 102, 78, 78}},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {574, 241, 168, 2}, .color = look::kBrass},
 };
 
 struct FrmStart : ui::Form {
@@ -24,13 +25,13 @@ struct FrmStart : ui::Form {
     }
 
     ui::Picture Image1{*this, "Image1", ui::kSpace, "", look::kPicture, {.picture = "images/start.bmp"}};
-    ui::Label Label1{*this, "Label1", {552, 197, 212, 64}, "Quenvale", look::kTitle};
-    ui::Label Label2{*this, "Label2", {552, 272, 212, 26}, "Come be the bastard!", look::kTagLine};
-    ui::CommandButton Command1{*this, "Command1", {568, 307, 180, 38}, "Start Game", look::kButton};
-    ui::CommandButton Command2{*this, "Command2", {568, 349, 180, 38}, "Level Normal", look::kButton};
-    ui::CommandButton Command4{*this, "Command4", {568, 391, 180, 38}, "Load Game", look::kButton};
-    ui::CommandButton Command5{*this, "Command5", {568, 433, 180, 38}, "How To Play", look::kButton};
-    ui::CommandButton Command3{*this, "Command3", {568, 475, 180, 38}, "Quit Game", look::kDangerButton};
+    ui::Label Label1{*this, "Label1", {552, 178, 212, 64}, "Quenvale", look::kTitle};
+    ui::Label Label2{*this, "Label2", {552, 246, 212, 26}, "Come be the bastard!", look::kTagLine};
+    ui::CommandButton Command1{*this, "Command1", {568, 281, 180, 38}, "Start Game", look::kButton};
+    ui::CommandButton Command2{*this, "Command2", {568, 329, 180, 38}, "Level Normal", look::kButton};
+    ui::CommandButton Command4{*this, "Command4", {568, 377, 180, 38}, "Load Game", look::kButton};
+    ui::CommandButton Command5{*this, "Command5", {568, 425, 180, 38}, "How To Play", look::kButton};
+    ui::CommandButton Command3{*this, "Command3", {568, 473, 180, 38}, "Quit Game", look::kDangerButton};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.
     ui::Shape OLE1{*this, "OLE1", {540, 84, 1, 1}, "", look::kShape, {.visible = false}};
 };

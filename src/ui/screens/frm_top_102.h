@@ -37,14 +37,20 @@ inline constexpr auto kHallSentenceRows = [] {
     return rows;
 }();
 
-// The sheet, its band with an emblem at either end, every second row striped, a rule behind each rank.
+// Three on either side of the title.
+inline constexpr std::array kHallStars{156, 182, 208, 574, 600, 626};
+
+// The sheet, its band with an emblem and stars at either end, every second row striped, a rule behind each rank.
 inline constexpr auto kHallDecor = [] {
-    std::array<ui::Decor, 3 + kHallRows / 2 + kHallRows> decor{
+    std::array<ui::Decor, 3 + kHallStars.size() + kHallRows / 2 + kHallRows> decor{
         ui::Decor{ui::Decor::Kind::PaperSheet, kHallSheet},
         ui::Decor{ui::Decor::Kind::Band, {8, 8, 779, 46}},
         ui::Decor{ui::Decor::Kind::Picture, {18, 14, 34, 34}, "images/emblem.bmp"},
     };
     std::size_t next = 3;
+    for (const int left : kHallStars) {
+        decor[next++] = {.kind = ui::Decor::Kind::Star, .rect = {left, 23, 18, 18}, .color = look::kSun};
+    }
     for (int i = 1; i < kHallRows; i += 2) {
         decor[next++] = {ui::Decor::Kind::Stripe, {16, HallRowTop(i), 763, 52}};
     }

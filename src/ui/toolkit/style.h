@@ -71,6 +71,8 @@ struct Decor {
         DoubleRule,  // two thin lines below a total
         Hairline,    // 1 px line
         Seal,        // the emblem on a red disc
+        Star,        // five points, in color
+        Border,      // a red line and a fine one inside it
         Fill,        // a plain rectangle in color
     };
 
@@ -78,7 +80,7 @@ struct Decor {
     Rect rect{};
     std::string_view text{};
     int angle = 0;              // degrees, counter-clockwise
-    Color color{};              // Fill, Rule and Hairline
+    Color color{};              // Fill, Star, Rule and Hairline
     Align align = Align::Left;  // Heading
 };
 

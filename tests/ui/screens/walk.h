@@ -51,6 +51,9 @@ protected:
             for (ui::Control* control : form->Controls()) {
                 control->SetVisible(true);
             }
+            if (form == &screens_.frmMonthBanner) {
+                screens_.frmMonthBanner.Label1.SetRect(screens::kBannerCaption);  // its place below a picture
+            }
             look(*form);
             form->Unload();
         }
