@@ -15,9 +15,6 @@ using ui::Control;
 using ui::Ornament;
 using ui::Rgb;
 
-constexpr ui::Color kBox = Rgb(0xFFFBEE);
-constexpr ui::Color kFieldLine = Rgb(0x6B5628);
-
 ButtonLook LookOf(const Brush& brush, const Control& control, const ControlLight& light)
 {
     const bool danger = control.Style().ornament == Ornament::DangerButton;
@@ -96,8 +93,11 @@ void PaintOption(Brush& brush, const Control& control, const ControlLight& light
     const PointF middle{box.left + 15, box.MiddleY()};
     const bool enabled = control.Now().enabled;
     const ButtonLook& disabled = brush.ground.secret ? button::kDisabledSecret : button::kDisabled;
-    brush.canvas.Disc(middle, 8.75, enabled ? kFieldLine : disabled.border);
-    brush.canvas.Disc(middle, 7.25, !enabled ? disabled.top : light.hovered ? button::kHover.light : kBox);
+    brush.canvas.Disc(middle, 8.75, enabled ? look::kFieldLine : disabled.border);
+    brush.canvas.Disc(middle, 7.25,
+                      !enabled        ? disabled.top
+                      : light.hovered ? button::kHover.light
+                                      : look::kField);
     if (control.Now().chosen) {
         brush.canvas.Disc(middle, 4.5, enabled ? look::kStampRed : disabled.text);
     }
@@ -114,7 +114,7 @@ void PaintPlate(Brush& brush, const BoxF& box)
 
 void PaintValueBox(Brush& brush, const BoxF& box)
 {
-    brush.canvas.Rounded(box, 3, Ink::Flat(kBox));
+    brush.canvas.Rounded(box, 3, Ink::Flat(look::kField));
     brush.canvas.Frame(box, 3, 1, look::kSheetEdge);
 }
 

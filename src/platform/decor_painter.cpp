@@ -64,8 +64,8 @@ void PaintBand(Brush& brush, const BoxF& band, std::string_view title)
     {
         const auto clip = canvas.Clipped(canvas.View().Snap(band));
         const BoxF longer{band.left, band.top, band.width, band.height + 8};
-        canvas.Rounded(longer, 3, Ink::Shade(Rgb(0xB8261B), Rgb(0x9A1E15)));
-        canvas.Frame(longer, 3, 1, Rgb(0x6B5628));
+        canvas.Rounded(longer, 3, Ink::Shade(look::kStampRed, Rgb(0x9A1E15)));
+        canvas.Frame(longer, 3, 1, look::kFieldLine);
     }
     canvas.Fill({band.left + 1, band.Bottom(), band.width - 2, 2}, look::kOchre);
     canvas.Fill({band.left + 1, band.Bottom() + 3, band.width - 2, 1}, look::kHeading);
@@ -88,7 +88,7 @@ void PaintPaperSheet(Brush& brush, const ui::Form&, const Decor& decor, const Bo
     canvas.Frame(box.Moved(5, 5), 3, 1, Rgb(0x5E4E2B));
     const SDL_Rect& place = canvas.View().place;
     canvas.Rounded(box, 3, Ink::Texture(brush.pictures.Get(kPaperPicture, place.w, place.h), look::kPaper));
-    canvas.Frame(box, 3, 1, Rgb(0x6B5628));
+    canvas.Frame(box, 3, 1, look::kFieldLine);
     if (!decor.text.empty()) {
         PaintBand(brush, {box.left, box.top, box.width, kBandHeight}, decor.text);
     }
@@ -179,6 +179,12 @@ void PaintHeading(Brush& brush, const ui::Form&, const Decor& decor, const BoxF&
     PaintText(brush, box, decor.text, style, brush.ground.secret ? look::kSun : look::kHeading);
 }
 
+void PaintCaption(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& box)
+{
+    PaintText(brush, box, decor.text, look::kCaption,
+              brush.ground.secret ? look::kSecretText : look::kCaption.fore);
+}
+
 void PaintStamp(Brush& brush, const Decor& decor, const BoxF& box, ui::Color color)
 {
     const int size = std::max(13, static_cast<int>(std::lround(box.height / 1.02)));
@@ -251,10 +257,13 @@ constexpr Paint kPaints[] = {
     PaintNote,
     PaintPictureDecor,
     PaintHeading,
+    PaintCaption,
     [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) {
         PaintStamp(b, d, box, look::kStampRed);
     },
-    [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) { PaintStamp(b, d, box, Rgb(0xEA4033)); },
+    [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) {
+        PaintStamp(b, d, box, look::kSecretStamp);
+    },
     [](Brush& b, const ui::Form&, const Decor&, const BoxF& box) { b.canvas.Fill(box, look::kStripe, 0.75); },
     PaintRule,
     PaintDoubleRule,

@@ -43,9 +43,9 @@ void TextBoxView::Paint(Brush& brush, const ui::TextBox& box)
     Canvas& canvas = brush.canvas;
     const BoxF place = box.Place();
     const bool enabled = box.Now().enabled;
-    canvas.Rounded(place, 3, Ink::Flat(enabled ? ui::Rgb(0xFFFBEE) : ui::Rgb(0xDCCDA3)));
-    canvas.Frame(place, 3, 1, ui::Rgb(0x6B5628));
-    canvas.Fill({place.left + 2, place.top + 1.5, place.width - 4, 2}, ui::Rgb(0xDCCDA3));
+    canvas.Rounded(place, 3, Ink::Flat(enabled ? look::kField : look::kFieldOff));
+    canvas.Frame(place, 3, 1, look::kFieldLine);
+    canvas.Fill({place.left + 2, place.top + 1.5, place.width - 4, 2}, look::kFieldOff);
 
     const ui::TextEdit& edit = box.Edit();
     const Type type = TypeOf(box, canvas.View().scale);

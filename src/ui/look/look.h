@@ -42,6 +42,10 @@ inline constexpr Color kSecretText = Rgb(0xF3E7C9);
 inline constexpr Color kStampRed = Rgb(0xB8261B);
 inline constexpr Color kUsedRow = Rgb(0x5E4F2C);
 inline constexpr Color kTeal = Rgb(0x1E5A5C);
+inline constexpr Color kFieldLine = Rgb(0x6B5628);  // around text boxes and paper
+inline constexpr Color kField = Rgb(0xFFFBEE);
+inline constexpr Color kFieldOff = Rgb(0xDCCDA3);  // that takes no text now
+inline constexpr Color kSecretStamp = Rgb(0xEA4033);
 inline constexpr Color kDoneText = Rgb(0xD4D8C9);  // on a button: nothing to be had here for now
 
 // Type ------------------------------------------------------------------------------------------------

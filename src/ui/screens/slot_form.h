@@ -1,6 +1,6 @@
 // The archive's five slots, each with its name. frmSave and frmLoad are such forms.
 //
-// Where a slot's option has no caption, the name beside it says enough.
+// The first slot's option has no caption of its own; the form has it printed on it.
 #pragma once
 
 #include "ui/look/look.h"
@@ -15,6 +15,7 @@ inline constexpr ui::Rect kSlotSheet{60, 84, 680, 420};
 inline constexpr std::array kSlotDecor{
     ui::Decor{ui::Decor::Kind::PaperSheet, kSlotSheet},
     ui::Decor{ui::Decor::Kind::Band, {60, 84, 680, 38}},
+    ui::Decor{ui::Decor::Kind::Caption, {116, 140, 128, 36}, "Game Slot 1"},
 };
 
 struct SlotForm : ui::Form {

@@ -231,14 +231,17 @@ void Desktop::Press(Key key, Modifiers modifiers)
     SetKeyboardUsed(true);
     switch (key) {
     case Key::Tab:
+        SetHovered(nullptr);  // one thing is lit at a time; the pointer lights again when it moves
         MoveFocus(!modifiers.shift);
         return;
     case Key::Up:
     case Key::Left:
+        SetHovered(nullptr);
         MoveWithinForm(false);
         return;
     case Key::Down:
     case Key::Right:
+        SetHovered(nullptr);
         MoveWithinForm(true);
         return;
     default:

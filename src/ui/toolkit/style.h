@@ -64,6 +64,7 @@ struct Decor {
         Note,       // a ruled note under a paper clip
         Picture,    // a picture file, named by text
         Heading,    // text in the style of column headings
+        Caption,    // text in the style of captions
         Stamp,      // text as a rubber stamp, turned by angle
         SecretStamp,
         Stripe,      // the ground of every second table row

@@ -55,11 +55,13 @@ TEST_F(Keyboard, TabWalksFromTheFrontScreenToThoseBehind)
     EXPECT_THAT(Walk(Key::Tab, 3), ElementsAre("Command1", "Command2", "Text1")) << "and nothing behind it";
 }
 
-TEST_F(Keyboard, TheRingGoesWithAClickAndStaysWithAKeyThatClicks)
+TEST_F(Keyboard, KeysTakeTheLightFromThePointerAndAClickTakesItBack)
 {
     bar.Show();
     desktop.onKey = [this](Key) { return !desktop.Click(bar.items[1]); };
+    desktop.Hover(bar.items[2]);
     Walk(Key::Tab, 1);
+    EXPECT_EQ(desktop.Hovered(), nullptr) << "one thing is lit at a time";
     desktop.Click(bar.items[0]);
     EXPECT_FALSE(desktop.ShowsFocus());
     desktop.Press(Key::Digit1);
