@@ -105,7 +105,7 @@ struct FrmPolice : ui::Form {
     ui::ControlArray<ui::Label> lblPER{*this, "lblPER", kReportCells};
 
     ui::Label Label12{*this, "Label12", {42, 440, 132, 28}, "Americans favor is:", look::kCaptionSecret};
-    ui::Label lblAF{*this, "lblAF", {174, 440, 76, 28}, "0%", look::kTotalSecret};
+    ui::Label lblAF{*this, "lblAF", {174, 440, 64, 28}, "0%", look::kTotalSecret};
 
     // The legend: each shape is the mark that stands beside a cell of its colour.
     ui::Shape Shape1{*this, "Shape1", {42, 475, 16, 16}, "", look::kShape,
