@@ -1,9 +1,11 @@
 #include "core/cards.h"
 
 #include "core/group_names.h"
+#include "core/numbers.h"
 #include "core/short_text.h"
 #include "files/text_records.h"
 
+#include <cmath>
 #include <limits>
 #include <optional>
 #include <span>
@@ -45,22 +47,27 @@ files::Result<Items> ReadItemsOf(const files::ProgramFolder& folder, std::string
 std::optional<files::FileError> TakeEffects(std::string_view file, std::span<const files::Item> items,
                                             std::size_t first, Effects& effects)
 {
-    constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+    constexpr double kMost = std::numeric_limits<std::int32_t>::max();
     for (std::size_t i = 0; i < kFigures; ++i) {
         const files::Item& item = items[first + i];
-        const std::optional<std::int64_t> number = files::AsInteger(item);
-        if (!number || *number > kMost || *number < -kMost) {
+        const std::optional<double> number = files::AsDouble(item);
+        if (!number || std::abs(*number) > kMost) {
             return files::FileError{std::string(file), item.line,
                                     "item " + std::to_string(first + i + 1) + ", " + NameOf(i) +
-                                        ": expected a whole number, found \"" +
-                                        Shortened(item.text, kQuoted) + "\""};
+                                        ": expected a number, found \"" + Shortened(item.text, kQuoted) +
+                                        "\""};
         }
-        std::int64_t& target = i < kGroups       ? effects.strength[i]
-                               : i < 2 * kGroups ? effects.opposition[i - kGroups]
-                                                 : effects.americanHostility;
+        double& target = i < kGroups       ? effects.strength[i]
+                         : i < 2 * kGroups ? effects.opposition[i - kGroups]
+                                           : effects.americanHostility;
         target = *number;
     }
     return std::nullopt;
+}
+
+void Add(i16& field, double change)
+{
+    field = RoundHalfEven(static_cast<double>(std::int64_t{field}) + change);
 }
 
 }  // namespace
@@ -69,11 +76,11 @@ void Apply(const Effects& effects, GameState& state)
 {
     for (std::size_t g = 0; g < kGroups; ++g) {
         if (g != Prisoners || state.Population[Prisoners] > 0) {
-            state.Strength[g] += effects.strength[g];
+            Add(state.Strength[g], effects.strength[g]);
         }
-        state.Opposition[g] += effects.opposition[g];
+        Add(state.Opposition[g], effects.opposition[g]);
     }
-    state.AmericanHostility += effects.americanHostility;
+    Add(state.AmericanHostility, effects.americanHostility);
 }
 
 files::Result<Card> ReadCard(const files::ProgramFolder& folder, std::string_view file)

@@ -18,13 +18,14 @@
 namespace core {
 
 // What is added to the nine groups' strength and opposition, and to the Americans' hostility.
+// Our own cards have whole numbers only.
 struct Effects {
-    std::array<std::int64_t, kGroups> strength{};
-    std::array<std::int64_t, kGroups> opposition{};
-    std::int64_t americanHostility = 0;
+    std::array<double, kGroups> strength{};
+    std::array<double, kGroups> opposition{};
+    double americanHostility = 0;
 };
 
-// Adds the effects; the prisoners' strength only while there are prisoners.
+// Adds the effects, each sum rounded half to even; the prisoners' strength only while there are prisoners.
 void Apply(const Effects& effects, GameState& state);
 
 // An action card (Actions/1 .. 25) or a request card (Actions/M1 .. M7), 22 items: nine strengths, nine

@@ -9,7 +9,7 @@ namespace events {
 
 namespace {
 
-void ShowFigure(ui::Label& label, std::string_view text, std::int64_t value)
+void ShowFigure(ui::Label& label, std::string_view text, double value)
 {
     label.SetText(text);
     label.SetMark(value > 0 ? ui::Mark::Up : value < 0 ? ui::Mark::Down : ui::Mark::None);

@@ -108,9 +108,19 @@ std::string_view Trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+// The item as std::from_chars takes it: without blanks, and without the plus sign that a quoted number may show.
+std::string_view DigitsOf(const Item& item)
+{
+    std::string_view digits = Trimmed(item.text);
+    if (item.quoted && digits.size() > 1 && digits[0] == '+' && digits[1] != '-') {
+        digits.remove_prefix(1);
+    }
+    return digits;
+}
+
 template <class T> std::optional<T> Finite(const Item& item)
 {
-    const std::string_view digits = Trimmed(item.text);
+    const std::string_view digits = DigitsOf(item);
     T value = 0;
     const char* end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, value);
@@ -173,10 +183,7 @@ Result<std::vector<Item>> ReadItems(const std::filesystem::path& path, std::stri
 
 std::optional<std::int64_t> AsInteger(const Item& item)
 {
-    std::string_view digits = Trimmed(item.text);
-    if (item.quoted && digits.size() > 1 && digits[0] == '+' && digits[1] != '-') {
-        digits.remove_prefix(1);
-    }
+    const std::string_view digits = DigitsOf(item);
     std::int64_t value = 0;
     const char* end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, value);

@@ -54,12 +54,17 @@ void CivilWar::Choose()
     core::UpdateTotalStrength(state_);
     core::UpdateStrengthShares(state_);
     screens_.frmChoose.Unload();
-    screens_.frmChoose.Label1.SetText("Mr.President, your personal army Strength is at " +
-                                      core::Digits(state_.StrengthPctPersonalArmy) +
-                                      "% but you can ask help from one of the following parties");
+    AskForHelp();
     ShowCandidates();
     OfferFlightWhenAlone();
     screens_.frmChoose.Show();
+}
+
+void CivilWar::AskForHelp()
+{
+    screens_.frmChoose.Label1.SetText("Mr.President, your personal army Strength is at " +
+                                      core::Digits(state_.StrengthPctPersonalArmy) +
+                                      "% but you can ask help from one of the following parties");
 }
 
 // Everybody who is not in the revolution.
@@ -157,6 +162,7 @@ void CivilWar::Never()
 {
     sound_.SoundClick();
     screens_.frmMes2.Hide();
+    AskForHelp();  // a refusal may still stand there
     screens_.frmChoose.Show();
 }
 

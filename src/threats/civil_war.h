@@ -36,6 +36,7 @@ public:
     std::function<void(std::function<void()> afterwards)> newPoliceChief;
 
 private:
+    void AskForHelp();
     void ShowCandidates();
     void OfferFlightWhenAlone();
     void Stretch(int buttons);

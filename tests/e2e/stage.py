@@ -29,6 +29,7 @@ from x11 import Display, Picture
 
 HERE = pathlib.Path(__file__).resolve().parent
 QUENVALE = os.environ["QUENVALE"]
+SEEDED = str(pathlib.Path(os.environ["QUENVALE_BUILD"], "quenvale-seeded"))  # the game with told dice
 CONSOLE = os.environ["QUENVALE_CONSOLE"]
 ASSETS = pathlib.Path(os.environ["QUENVALE_SOURCE"], "assets")
 FAILURES = pathlib.Path(os.environ["QUENVALE_BUILD"], "e2e")
@@ -151,12 +152,13 @@ class Console:
 
 
 class Game:
-    """The real program, and who sits before it."""
+    """The real program, and who sits before it. With a seed its dice fall as in a console with that seed."""
 
-    def __init__(self, server, environment):
+    def __init__(self, server, environment, seed=None):
         self.server = server
         self._said = tempfile.TemporaryFile("w+")
-        self.process = subprocess.Popen([QUENVALE], env=environment, stdin=subprocess.DEVNULL, stdout=self._said,
+        command = [QUENVALE] if seed is None else [SEEDED, str(seed)]
+        self.process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=self._said,
                                         stderr=self._said)
 
     def said(self):
@@ -176,7 +178,7 @@ class Game:
 
     def window(self):
         """Its number, or None while it has none."""
-        found = self.hands("search", "--onlyvisible", "--class", "^quenvale$").split()
+        found = self.hands("search", "--onlyvisible", "--class", "^quenvale").split()
         return int(found[0]) if found else None
 
     def place(self):
@@ -263,8 +265,8 @@ class Case(unittest.TestCase):
         self.servers.append(server)
         return server
 
-    def game(self, server=None, **environment):
-        game = Game(server, environment_of(self.scratch, server, **environment))
+    def game(self, server=None, seed=None, **environment):
+        game = Game(server, environment_of(self.scratch, server, **environment), seed)
         self.games.append(game)
         self.addCleanup(game.end)
         return game
@@ -289,14 +291,16 @@ class Case(unittest.TestCase):
         expected = console.picture()
         self.until(f"the window shows {what}", lambda: self.shows(game, expected, place))
 
-    def open_title(self, server, **environment):
-        game, console = self.game(server, **environment), self.console()
+    def open_title(self, server, seed=None, **environment):
+        game, console = self.game(server, seed, **environment), self.console()
+        if seed is not None:
+            console.ask(f"seed {seed}")
         self.until_shows(game, console, "the title")
         return game, console
 
-    def open_start(self, server, **environment):
+    def open_start(self, server, seed=None):
         """The start screen, in a window again on a server that has no mode for the game."""
-        game, console = self.open_title(server, **environment)
+        game, console = self.open_title(server, seed)
         game.click(TITLE)
         console.ask("click frmlogo")
         self.until("the game fills the screen", lambda: game.place() == (0, 0, *server.size()))

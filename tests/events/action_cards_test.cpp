@@ -143,6 +143,25 @@ TEST(ActionCards, AreCancelledWithoutATrace)
     EXPECT_THAT(test::Changed(before, game.State()), ElementsAre("ActionChoice"));
 }
 
+TEST(ActionCards, WithFractionsGiveSumsRoundedHalfToEven)
+{
+    TestGame game;
+    game.StartGame();
+    game.folder.Write("Actions/7", "0.5,1.5,-2.5,\"+3\",0,0,0,0,0,0,0,0,0,0,0,0,0,0,99999,\"a\",\"b\",\"c\"");
+    game.Set({{"Strength[Workers]", 30}, {"Strength[Peasants]", 30}, {"Strength[Businessmen]", 30}});
+    game.Set({{"Strength[Industrialists]", 30}});
+    game.Click("frmMain.Label5(0)");
+    game.Click("frmActions.Command1(7)");
+    EXPECT_EQ(game.Text("frmShow.lblPER(10)"), "0.5");
+    EXPECT_EQ(game.Text("frmShow.lblPER(13)"), "+3");
+    game.Click("frmShow.Command3");
+    game.Expect({{"Strength[Workers]", 30},
+                 {"Strength[Peasants]", 32},
+                 {"Strength[Businessmen]", 28},
+                 {"Strength[Industrialists]", 33},
+                 {"AmericanHostility", 32767}});
+}
+
 TEST(ActionCards, ThatAreBrokenChangeNothing)
 {
     const struct {
@@ -154,7 +173,7 @@ TEST(ActionCards, ThatAreBrokenChangeNothing)
         {"too short for the screen", "1,2,3", "expected 22 items, found 3"},
         {"without its last text", "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,\"a\",\"b\"", "found 21"},
         {"a text for a number", "0,0,much,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,\"a\",\"b\",\"c\"",
-         "item 3, the strength of the Businessmen: expected a whole number, found \"much\""},
+         "item 3, the strength of the Businessmen: expected a number, found \"much\""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.why);

@@ -252,6 +252,18 @@ TEST(CivilWar, WhoseOfferCannotBeReadCannotBeAsked)
     EXPECT_EQ(game.Banner(), "Congratulations! You made it alive to the United States!");
 }
 
+TEST(CivilWar, ARefusalGivesWayToTheQuestionWhenAnotherAllyIsDeclined)
+{
+    test::TestGame game;
+    game.folder.Remove("Actions/R1");
+    Rise(game, {6});
+    const std::string question = game.Text("frmChoose.Label1");
+    game.Click("frmChoose.Command1(1)");
+    game.Click("frmChoose.Command1(2)");
+    game.Click("frmMes2.Command1");
+    EXPECT_EQ(game.Text("frmChoose.Label1"), question);
+}
+
 TEST(CivilWar, AnOfferThatVanishesIsNotPaidFor)
 {
     test::TestGame game;

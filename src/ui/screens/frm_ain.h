@@ -50,12 +50,14 @@ struct BarKind {
 inline constexpr BarKind kRevolutionBar{2, look::kRed};
 inline constexpr BarKind kAssassinBar{17, look::kYellow};
 
-constexpr std::array<ui::ElementRow, kForecastRows> BarRows(const BarKind& kind)
+// By faction number. Element 0 belongs to none and lies outside the report.
+constexpr std::array<ui::ElementRow, kForecastRows + 1> BarRows(const BarKind& kind)
 {
-    std::array<ui::ElementRow, kForecastRows> rows{};
+    std::array<ui::ElementRow, kForecastRows + 1> rows{};
+    rows[0] = {0, {-2 * kBarPixels, 0, kBarPixels, 13}, "", &look::kShape, {.visible = false, .back = kind.color, .twips = kBarTwips}};
     for (int faction = 1; faction <= kForecastRows; ++faction) {
         const ui::Rect place{kBarLeft, ForecastTop(faction) + kind.below, kBarPixels, 13};
-        rows[static_cast<std::size_t>(faction - 1)] =
+        rows[static_cast<std::size_t>(faction)] =
             {faction, place, "", &look::kShape, {.back = kind.color, .twips = kBarTwips}};
     }
     return rows;

@@ -18,9 +18,9 @@ using ui::Control;
 
 // Controls that may lie where they like: they are never seen, or are moved before they are.
 const std::set<std::string> kAnywhere{
-    "frmActions.Command1(0)", "frmActions.Command1(23)", "frmChoose.Command1(1)",
-    "frmChoose.Command1(2)",  "frmChoose.Command1(3)",   "frmChoose.Command1(4)",
-    "frmChoose.Command1(5)",  "frmChoose.Command1(6)",   "frmChoose.Command2",
+    "frmActions.Command1(0)", "frmActions.Command1(23)", "frmChoose.Command1(1)", "frmChoose.Command1(2)",
+    "frmChoose.Command1(3)",  "frmChoose.Command1(4)",   "frmChoose.Command1(5)", "frmChoose.Command1(6)",
+    "frmChoose.Command2",     "frmAIN.Rpro(0)",          "frmAIN.APro(0)",
 };
 
 // Pairs of buttons that may share a place, because never both of them are visible.

@@ -1,0 +1,18 @@
+// Quenvale as src/app/main.cpp starts it, but for its dice: they fall by the seed in the one argument, so that the
+// console can play the same game beside the window.
+#include "app/game.h"
+#include "platform/program.h"
+
+#include <clocale>
+#include <string>
+
+int main(int count, char** words)
+{
+    std::setlocale(LC_ALL, "");
+    platform::SdlHost host;
+    core::Chance chance;
+    chance.Seed(count > 1 ? std::stoull(words[1]) : 0);
+    Game game(host, files::ProgramFolder::Find(), chance);
+    game.Start();
+    return platform::Run(game.GetDesktop(), host, game.Folder());
+}
