@@ -115,7 +115,7 @@ private:
 
     // The shell.
     shell::Display display_{state_, host_};
-    shell::Manual manual_{folder_, host_, screens_.frmMonthBanner};
+    shell::Manual manual_{folder_, host_, desktop_, screens_};
     shell::Opening opening_{state_, screens_, sound_, host_, display_, manual_};
     shell::ArmyScreen army_{state_, screens_.frmArmy};
     shell::SavedGames savedGames_{state_, desktop_, screens_, sound_, written_, format_};

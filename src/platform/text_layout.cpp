@@ -3,6 +3,7 @@
 #include "ui/toolkit/text_edit.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace platform {
 
@@ -100,6 +101,33 @@ void Place(Letters& letters, const Type& type, int line, const ui::TextStyle& st
     }
 }
 
+// Takes characters from a line's end until it fits with three dots behind it.
+void CutLine(Letters& letters, const Type& type, double measure, std::string& line)
+{
+    constexpr std::string_view kDots = "...";
+    while (!line.empty() && letters.Width(line + std::string(kDots), type) > measure) {
+        ui::TextEdit edit;
+        edit.SetText(line);
+        line.resize(edit.Previous(line.size()));
+    }
+    line += kDots;
+}
+
+// Of a text that is too long for its place at every size, what there is room for.
+void CutToFit(Letters& letters, const Type& type, const BoxF& box, double rows, std::vector<TextLine>& lines)
+{
+    const auto room = static_cast<std::size_t>(std::max(1.0, rows));
+    if (lines.size() > room) {
+        lines.resize(room);
+        CutLine(letters, type, box.width, lines.back().text);
+    }
+    for (TextLine& line : lines) {
+        if (letters.Width(line.text, type) > box.width) {
+            CutLine(letters, type, box.width, line.text);
+        }
+    }
+}
+
 }  // namespace
 
 BoxF TextLayout::Bounds() const
@@ -139,12 +167,14 @@ TextLayout LayOut(Letters& letters, std::string_view text, const ui::TextStyle& 
 {
     const double needed = style.face == ui::Face::Heading ? kCapitalHeight : kLetterHeight;
     TextLayout layout;
+    int step = 1;  // from line to line
     for (const ui::TextSize& each : style.sizes) {
         if (each.size == 0 || text.empty()) {
             break;
         }
         const Type type{style.face, each.size, 1.0};
         layout.size = each.size;
+        step = each.line;
         layout.lines.clear();
         if (style.wrap) {
             for (std::string& line : Wrap(letters, text, type, box.width, style.balanced)) {
@@ -162,6 +192,12 @@ TextLayout LayOut(Letters& letters, std::string_view text, const ui::TextStyle& 
         }
     }
     layout.fits = layout.fits || text.empty();
+    if (!layout.fits && !layout.lines.empty()) {
+        const Type type{style.face, layout.size, 1.0};
+        const double rows = 1 + std::floor((box.height - needed * layout.size) / step);
+        CutToFit(letters, type, box, rows, layout.lines);
+        Place(letters, type, step, style, box, layout);
+    }
     return layout;
 }
 

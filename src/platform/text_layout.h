@@ -4,7 +4,7 @@
 //     if (!layout.fits) { ... }       // too much text even for the style's smallest size
 //
 // Texts are measured in the picture space, so a screen breaks its lines alike in every window. The style's
-// sizes are tried in order; if none holds the text, the smallest is used and the text stands over, uncut.
+// sizes are tried in order; if none holds the text, the smallest is used and the text ends in three dots.
 #pragma once
 
 #include "platform/letters.h"
@@ -24,7 +24,7 @@ struct TextLine {
 
 struct TextLayout {
     int size = 0;
-    bool fits = false;
+    bool fits = false;  // whole
     std::vector<TextLine> lines;
 
     BoxF Bounds() const;  // of the letters, for opaque grounds

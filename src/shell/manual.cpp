@@ -17,12 +17,21 @@ void Manual::Open()
     const std::filesystem::path path = folder_.Path(kManual);
     std::error_code error;
     if (!std::filesystem::exists(path, error)) {
-        core::Say(banner_, "Mr.President, the manual was expected at " + path.string() +
-                               " and is not there. Nobody had read it, so nobody is missing anything.");
+        Tell("Mr.President, the manual was expected at " + path.string() +
+             " and is not there. Nobody had read it, so nobody is missing anything.");
         return;
     }
     host_.OpenDocument(kManual);
-    core::Say(banner_, "Mr.President, your manual lies at " + path.string());
+    Tell("Mr.President, your manual lies at " + path.string());
+}
+
+void Manual::Tell(const std::string& text)
+{
+    if (screens_.frmStart.Visible()) {
+        screens_.frmStart.Label3.SetText(text);
+    } else if (screens_.frmMain.Visible() && screens_.frmMain.Enabled() && desktop_.ModalForm() == nullptr) {
+        core::Say(screens_.frmMonthBanner, text);
+    }
 }
 
 }  // namespace shell

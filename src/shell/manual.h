@@ -1,24 +1,34 @@
-// The manual: handed to the system's viewer, and its place told on the banner in case there is none.
+// The manual: handed to the system's viewer, and its place told in case there is none.
+//
+// It is told on the start screen, or on the banner while it is the player's turn. In the middle of a story and
+// behind a question the banner keeps its line.
 #pragma once
 
 #include "files/program_folder.h"
 #include "media/host.h"
-#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/screens.h"
+#include "ui/toolkit/desktop.h"
+
+#include <string>
 
 namespace shell {
 
 class Manual {
 public:
-    Manual(const files::ProgramFolder& folder, media::Host& host, screens::FrmMonthBanner& banner)
-        : folder_(folder), host_(host), banner_(banner)
+    Manual(const files::ProgramFolder& folder, media::Host& host, const ui::Desktop& desktop,
+           screens::Screens& screens)
+        : folder_(folder), host_(host), desktop_(desktop), screens_(screens)
     {}
 
     void Open();
 
 private:
+    void Tell(const std::string& text);
+
     const files::ProgramFolder& folder_;
     media::Host& host_;
-    screens::FrmMonthBanner& banner_;
+    const ui::Desktop& desktop_;
+    screens::Screens& screens_;
 };
 
 }  // namespace shell

@@ -71,6 +71,7 @@ void Opening::LeaveTitle()
 void Opening::ShowStart()
 {
     screens_.frmStart.Load();
+    screens_.frmStart.Label3.SetText("");
     screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
     screens_.frmStart.Show();
 }

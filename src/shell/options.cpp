@@ -1,16 +1,9 @@
 #include "shell/options.h"
 
-#include "core/short_text.h"
 #include "persist/hall_of_fame.h"
 #include "shell/figures.h"
 
 namespace shell {
-
-namespace {
-
-constexpr std::size_t kNameShown = 48;  // columns: two lines of a key
-
-}  // namespace
 
 Options::Options(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
                  const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
@@ -39,8 +32,7 @@ void Options::Open()
 void Options::NameHistory()
 {
     if (!state_.PlayerName.empty()) {
-        screens_.frmOptions.Label5[screens::kOptionHistory].SetText(
-            core::Shortened(state_.PlayerName, kNameShown));
+        screens_.frmOptions.Label5[screens::kOptionHistory].SetText(state_.PlayerName);
     }
 }
 

@@ -160,6 +160,7 @@ TEST_F(Console, RefusesWithTheWrongWordAndChangesNothing)
         {"set PlayerName 1", "1"},
         {"set StrengthPct[Army] \"1\"", "\"1\""},
         {"set StrengthPct[Army] 1e39", "StrengthPct[Army]"},
+        {"set StrengthPct[Army] 1e39", "1e39"},
         {"set PoliceChiefs[0][2] 1.5", "1.5"},
         {"set Gold 1", "Gold"},
         {"call", "end of the line"},

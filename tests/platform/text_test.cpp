@@ -2,6 +2,7 @@
 
 #include "platform/sheet.h"
 #include "platform/viewport.h"
+#include "ui/look/look.h"
 
 #include <gmock/gmock.h>
 
@@ -87,6 +88,20 @@ TEST(Wrap, BalancedLinesAreAsFewAndAboutEquallyLong)
     EXPECT_GT(shortest(balanced), shortest(greedy));
     EXPECT_THAT(balanced, ElementsAre("Mr.President, the Army is busy right now.",
                                       "We are in war in case you didn't notice! . . ."));
+}
+
+TEST(LayOut, EndsATextThatIsTooLongInDots)
+{
+    Letters letters;
+    const platform::BoxF key{0, 0, 200, 28};
+    for (const std::string& text :
+         {std::string(500, 'W'), std::string(kSpeech), std::string("\u5927") + std::string(90, 'm')}) {
+        const TextLayout layout = LayOut(letters, text, look::kYellowKey, key);
+        EXPECT_FALSE(layout.fits);
+        EXPECT_TRUE(layout.lines.back().text.ends_with("...")) << layout.lines.back().text;
+        EXPECT_LE(layout.Bounds().height, key.height);
+        EXPECT_LE(layout.Bounds().width, key.width);
+    }
 }
 
 // Some letters reach higher or lower than their font says.

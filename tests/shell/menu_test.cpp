@@ -98,6 +98,17 @@ TEST_F(Menu, OpensTheManualWithF1)
     EXPECT_THAT(game.Banner(), testing::HasSubstr(game.folder.Path("Data/Manual.htm").string()));
 }
 
+TEST_F(Menu, LeavesTheStoryItsLineWhenF1IsPressed)
+{
+    game.folder.Write("Data/Manual.htm", "<p>Rule.</p>");
+    game.Call("Timer6_Timer");
+    const std::string last = game.Banner();
+    game.Screens().frmMain.SetEnabled(false);
+    game.Press(ui::Key::F1);
+    EXPECT_THAT(game.host.opened, ElementsAre("Data/Manual.htm"));
+    EXPECT_EQ(game.Banner(), last);
+}
+
 TEST_F(Menu, RefusesTheMonthThatTheTreasuryCannotPay)
 {
     // Nothing happens but the months themselves.

@@ -7,6 +7,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 
 TEST(Opening, LeadsFromTheTitleToTheThirdMonthByClicks)
 {
@@ -101,6 +102,10 @@ TEST(Opening, TellsWhereTheManualIs)
     game.Click("frmlogo");
     game.Click("frmStart.Command5");
     EXPECT_THAT(game.host.opened, ElementsAre("Data/Manual.htm"));
+    EXPECT_THAT(game.Text("frmStart.Label3"), HasSubstr(game.folder.Path("Data/Manual.htm").string()));
+    game.folder.Remove("Data/Manual.htm");
+    game.Click("frmStart.Command5");
+    EXPECT_THAT(game.Text("frmStart.Label3"), HasSubstr("is not there"));
 }
 
 TEST(Opening, ShowsWhoMadeThisUntilAClickAnywhere)

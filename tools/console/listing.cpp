@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 6> kKinds{"Label",   "CommandButton", "Op
 template <class T> Json Number(T value)
 {
     constexpr T kExact =
-        1 / std::numeric_limits<T>::epsilon();  // up to here every whole number has its own T
+        2 / std::numeric_limits<T>::epsilon();  // up to here every whole number has its own T
     const bool minusZero = value == 0 && std::signbit(value);
     if (value == std::trunc(value) && std::abs(value) <= kExact && !minusZero) {
         return static_cast<std::int64_t>(value);

@@ -167,7 +167,7 @@ void Session::Start(Words& words, Json& /*reply*/)
     words.End();
     std::error_code error;
     if (named && !std::filesystem::is_directory(*named, error)) {
-        throw Refused("there is no folder " + *named);
+        throw Refused("there is no folder \"" + *named + '"');
     }
     run_ = std::make_unique<Run>(named ? files::ProgramFolder(*named) : files::ProgramFolder::Find());
 }
@@ -239,10 +239,12 @@ void Session::Call(Words& words, Json& /*reply*/)
 void Session::Set(Words& words, Json& /*reply*/)
 {
     const core::Element element = TakeElement(words);
+    const std::string word = words.Peek();
     const core::Value value = words.Value();
     words.End();
     if (const std::optional<std::string> expected = element.Set(run_->game.State(), value)) {
-        throw Refused(element.Name() + ": expected " + *expected + ", found " + Printed(ValueOf(value)));
+        throw Refused(element.Name() + ": expected " + *expected + ", found " +
+                      (std::holds_alternative<std::string>(value) ? Printed(ValueOf(value)) : word));
     }
 }
 
@@ -257,9 +259,10 @@ void Session::Draws(Words& words, Json& /*reply*/)
 {
     std::vector<double> draws;
     do {
+        const std::string found = words.Peek();
         const double r = words.Number("a number from 0 to below 1");
         if (!(r >= 0 && r < 1)) {
-            throw Refused("expected a number from 0 to below 1, found " + Printed(r));
+            throw Refused("expected a number from 0 to below 1, found " + found);
         }
         draws.push_back(r);
     } while (!words.AtEnd());

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace console {
@@ -53,7 +54,9 @@ core::Value ValueOf(const nlohmann::json& number)
     if (value == std::floor(value) && std::abs(value) < kLimit) {
         return static_cast<std::int64_t>(value);
     }
-    return static_cast<float>(value);
+    // What no float can hold is for the field to refuse.
+    return std::abs(value) > std::numeric_limits<float>::max() ? std::numeric_limits<float>::infinity()
+                                                               : static_cast<float>(value);
 }
 
 }  // namespace
@@ -82,6 +85,11 @@ void Words::End() const
     if (!AtEnd()) {
         throw Refused("expected nothing more, found " + words_[next_].text);
     }
+}
+
+std::string Words::Peek() const
+{
+    return AtEnd() ? std::string() : words_[next_].text;
 }
 
 const Words::Word& Words::Take(std::string_view what)

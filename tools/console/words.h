@@ -23,7 +23,8 @@ public:
     explicit Words(std::string_view line);
 
     bool AtEnd() const { return next_ == words_.size(); }
-    void End() const;  // nothing may be left
+    void End() const;          // nothing may be left
+    std::string Peek() const;  // the next word as it stands; empty at the end
 
     std::string Name(std::string_view what);
     std::string Text();                         // a JSON string

@@ -32,6 +32,8 @@ struct FrmStart : ui::Form {
     ui::CommandButton Command4{*this, "Command4", {568, 377, 180, 38}, "Load Game", look::kButton};
     ui::CommandButton Command5{*this, "Command5", {568, 425, 180, 38}, "How To Play", look::kButton};
     ui::CommandButton Command3{*this, "Command3", {568, 473, 180, 38}, "Quit Game", look::kDangerButton};
+    // Where the manual lies, or that it does not.
+    ui::Label Label3{*this, "Label3", {400, 544, 388, 52}, "", look::kAside};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.
     ui::Shape OLE1{*this, "OLE1", {540, 84, 1, 1}, "", look::kShape, {.visible = false}};
 };
