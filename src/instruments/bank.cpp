@@ -1,7 +1,6 @@
 #include "instruments/bank.h"
 
 #include "core/banner.h"
-#include "ui/toolkit/desktop.h"
 
 #include <optional>
 
@@ -41,9 +40,7 @@ void Bank::ShowFigures()
 {
     bank_.Label2.SetText(format_.Amount(state_.SwissBank));
     bank_.Text1.SetText(format_.Amount(state_.Money));
-    if (bank_.GetDesktop().FocusedTextBox() == &bank_.Text1) {
-        bank_.Text1.Change([](ui::TextEdit& edit) { edit.SelectAll(); });
-    }
+    bank_.Text1.Change([](ui::TextEdit& edit) { edit.SelectAll(); });
 }
 
 void Bank::Proceed()

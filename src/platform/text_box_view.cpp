@@ -65,7 +65,7 @@ void TextBoxView::Paint(Brush& brush, const ui::TextBox& box)
         ui::Rect{box.Place().left + 4, box.Place().top + 2, box.Place().width - 8, box.Place().height - 4});
     const double top = place.top + 7;
     const double height = place.height - 14;
-    if (edit.HasSelection() && edit.Composition().empty()) {
+    if (&box == focused_ && edit.HasSelection() && edit.Composition().empty()) {
         const double from = XOf(brush.letters, text, edit.SelectionStart(), type);
         const double to = XOf(brush.letters, text, edit.SelectionEnd(), type);
         canvas.Fill({left + from, top - 1, to - from, height + 2}, look::kSun);

@@ -37,8 +37,8 @@ inline constexpr std::array kSecretDecor{
 };
 
 struct PaperScreen : ui::Form {
-    explicit PaperScreen(ui::Desktop& desktop)
-        : Form(desktop, {.name = "paper", .rect = {20, 58, 500, 420}, .decor = kPaperDecor})
+    explicit PaperScreen(ui::Stage& stage)
+        : Form(stage, {.name = "paper", .rect = {20, 58, 500, 420}, .decor = kPaperDecor})
     {
         row.onClick = [] {};
     }
@@ -54,8 +54,8 @@ struct PaperScreen : ui::Form {
 };
 
 struct SecretScreen : ui::Form {
-    explicit SecretScreen(ui::Desktop& desktop)
-        : Form(desktop, {.name = "secret", .rect = {540, 70, 240, 400}, .decor = kSecretDecor})
+    explicit SecretScreen(ui::Stage& stage)
+        : Form(stage, {.name = "secret", .rect = {540, 70, 240, 400}, .decor = kSecretDecor})
     {}
 
     ui::Shape bar{*this, "bar", {560, 130, 140, 13}, "", look::kShape, {.back = look::kYellow}};

@@ -2,8 +2,8 @@
 // of groups with their changes of strength and opposition, and the note with the side effects.
 //
 //     struct FrmShow : CardForm {
-//         explicit FrmShow(ui::Desktop& desktop)
-//             : CardForm(desktop, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor}, kShowPlan)
+//         explicit FrmShow(ui::Stage& stage)
+//             : CardForm(stage, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor}, kShowPlan)
 //
 // The two differ only in where the table and the note begin: CardRows makes the rows of either.
 #pragma once
@@ -81,8 +81,8 @@ constexpr std::array<ui::Decor, 12> CardDecor(const CardPlan& plan, std::string_
 }
 
 struct CardForm : ui::Form {
-    CardForm(ui::Desktop& desktop, const ui::Form::Design& design, const CardPlan& cardPlan)
-        : Form(desktop, design), plan(cardPlan)
+    CardForm(ui::Stage& stage, const ui::Form::Design& design, const CardPlan& cardPlan)
+        : Form(stage, design), plan(cardPlan)
     {}
 
     CardPlan plan;

@@ -53,8 +53,8 @@ constexpr ChiefCells ChiefElements()
 inline constexpr ChiefCells kChiefCells = ChiefElements();
 
 struct ChiefTable : ui::Form {
-    ChiefTable(ui::Desktop& desktop, std::string_view name, std::string_view title)
-        : Form(desktop, {.name = name, .rect = kChiefsSheet, .decor = kChiefsDecor}),
+    ChiefTable(ui::Stage& stage, std::string_view name, std::string_view title)
+        : Form(stage, {.name = name, .rect = kChiefsSheet, .decor = kChiefsDecor}),
           Label5{*this, "Label5", {56, 63, 640, 30}, title, look::kBandTitle}
     {}
 

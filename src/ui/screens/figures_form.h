@@ -21,8 +21,8 @@ inline constexpr std::array kFiguresDecor{
 };
 
 struct FiguresForm : ui::Form {
-    FiguresForm(ui::Desktop& desktop, std::string_view name, std::string_view title)
-        : Form(desktop, {.name = name, .rect = kFiguresSheet, .decor = kFiguresDecor}), title_(title)
+    FiguresForm(ui::Stage& stage, std::string_view name, std::string_view title)
+        : Form(stage, {.name = name, .rect = kFiguresSheet, .decor = kFiguresDecor}), title_(title)
     {}
 
 private:

@@ -19,8 +19,8 @@ inline constexpr std::array<ui::ElementRow, 2> kPlottersRows{{
 }};
 
 struct FrmAFailed : ui::Form {
-    explicit FrmAFailed(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmAFailed", .rect = kPlottersSheet, .decor = kPlottersDecor})
+    explicit FrmAFailed(ui::Stage& stage)
+        : Form(stage, {.name = "frmAFailed", .rect = kPlottersSheet, .decor = kPlottersDecor})
     {}
 
     ui::ControlArray<ui::Label> lblPER{*this, "lblPER", kPlottersRows};

@@ -14,8 +14,8 @@ inline constexpr std::array kAboutDecor{
 };
 
 struct FrmAbout : ui::Form {
-    explicit FrmAbout(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmAbout", .caption = "Quenvale", .rect = kAboutSheet, .decor = kAboutDecor})
+    explicit FrmAbout(ui::Stage& stage)
+        : Form(stage, {.name = "frmAbout", .caption = "Quenvale", .rect = kAboutSheet, .decor = kAboutDecor})
     {}
 
     ui::Picture Image1{*this, "Image1", {112, 152, 300, 300}, "Quenvale", look::kPicture,

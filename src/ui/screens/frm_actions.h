@@ -58,8 +58,8 @@ inline constexpr std::array<ui::ElementRow, 26> kActionRows{{
 // clang-format on
 
 struct FrmActions : ui::Form {
-    explicit FrmActions(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmActions", .rect = kActionsSheet, .decor = kActionsDecor})
+    explicit FrmActions(ui::Stage& stage)
+        : Form(stage, {.name = "frmActions", .rect = kActionsSheet, .decor = kActionsDecor})
     {
         initialFocus = &Command1[1];
     }

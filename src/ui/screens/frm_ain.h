@@ -86,8 +86,8 @@ constexpr ui::Rect ForecastName(int faction)
 }
 
 struct FrmAIN : ui::Form {
-    explicit FrmAIN(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmAIN", .rect = {30, 58, 740, 530}, .decor = kReportDecor})
+    explicit FrmAIN(ui::Stage& stage)
+        : Form(stage, {.name = "frmAIN", .rect = {30, 58, 740, 530}, .decor = kReportDecor})
     {}
 
     ui::Label Label6{*this, "Label6", {46, 62, 660, 32}, "Intelligence Service Report", look::kBandTitle};

@@ -15,8 +15,8 @@ inline constexpr std::array kArmyDecor{
 };
 
 struct FrmArmy : ui::Form {
-    explicit FrmArmy(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmArmy", .rect = kArmySheet, .decor = kArmyDecor})
+    explicit FrmArmy(ui::Stage& stage)
+        : Form(stage, {.name = "frmArmy", .rect = kArmySheet, .decor = kArmyDecor})
     {}
 
     ui::Label Label1{*this, "Label1", {36, 61, 690, 30}, "ARMY CHIEF IS", look::kBandTitle};

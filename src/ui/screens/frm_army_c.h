@@ -6,7 +6,7 @@
 namespace screens {
 
 struct FrmArmyC : ChiefTable {
-    explicit FrmArmyC(ui::Desktop& desktop) : ChiefTable(desktop, "frmArmyC", "Army Chiefs") {}
+    explicit FrmArmyC(ui::Stage& stage) : ChiefTable(stage, "frmArmyC", "Army Chiefs") {}
 };
 
 }  // namespace screens

@@ -18,8 +18,8 @@ inline constexpr std::array kBankDecor{
 
 // No default button: a Return held too long must not empty the treasury.
 struct FrmBank : ui::Form {
-    explicit FrmBank(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmBank", .rect = kBankSheet, .decor = kBankDecor})
+    explicit FrmBank(ui::Stage& stage)
+        : Form(stage, {.name = "frmBank", .rect = kBankSheet, .decor = kBankDecor})
     {
         initialFocus = &Text1;
     }

@@ -34,8 +34,8 @@ constexpr std::array<ui::ElementRow, 6> ChooseRows()
 inline constexpr std::array kChooseRows = ChooseRows();
 
 struct FrmChoose : ui::Form {
-    explicit FrmChoose(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmChoose", .rect = kChooseSheet, .decor = kChooseDecor})
+    explicit FrmChoose(ui::Stage& stage)
+        : Form(stage, {.name = "frmChoose", .rect = kChooseSheet, .decor = kChooseDecor})
     {}
 
     ui::Label Label1{*this, "Label1", kChooseText, "", look::kMessage};

@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmGRev : ui::Form {
-    explicit FrmGRev(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmGRev", .rect = kPosterSheet, .decor = kPosterDecor})
+    explicit FrmGRev(ui::Stage& stage)
+        : Form(stage, {.name = "frmGRev", .rect = kPosterSheet, .decor = kPosterDecor})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

@@ -6,7 +6,7 @@
 namespace screens {
 
 struct FrmGameLoaded : FiguresForm {
-    explicit FrmGameLoaded(ui::Desktop& desktop) : FiguresForm(desktop, "frmGameLoaded", "Game Loaded ") {}
+    explicit FrmGameLoaded(ui::Stage& stage) : FiguresForm(stage, "frmGameLoaded", "Game Loaded ") {}
 };
 
 }  // namespace screens

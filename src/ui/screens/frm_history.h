@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmHistory : FiguresForm {
-    explicit FrmHistory(ui::Desktop& desktop)
-        : FiguresForm(desktop, "frmHistory", "Mr.President's History and Score")
+    explicit FrmHistory(ui::Stage& stage)
+        : FiguresForm(stage, "frmHistory", "Mr.President's History and Score")
     {}
 };
 

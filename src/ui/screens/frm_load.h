@@ -6,7 +6,7 @@
 namespace screens {
 
 struct FrmLoad : SlotForm {
-    explicit FrmLoad(ui::Desktop& desktop) : SlotForm(desktop, {"frmLoad", "Load Game", "Empty slot", "Load"}) {}
+    explicit FrmLoad(ui::Stage& stage) : SlotForm(stage, {"frmLoad", "Load Game", "Empty slot", "Load"}) {}
 };
 
 }  // namespace screens

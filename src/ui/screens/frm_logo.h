@@ -7,8 +7,8 @@
 namespace screens {
 
 struct Frmlogo : ui::Form {
-    explicit Frmlogo(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmlogo", .caption = "Quenvale", .rect = ui::kSpace, .opaque = true})
+    explicit Frmlogo(ui::Stage& stage)
+        : Form(stage, {.name = "frmlogo", .caption = "Quenvale", .rect = ui::kSpace, .opaque = true})
     {}
 
     ui::Picture Image1{*this, "Image1", ui::kSpace, "Quenvale", look::kPicture,

@@ -32,8 +32,8 @@ inline constexpr std::array kMainDecor{
 };
 
 struct FrmMain : ui::Form {
-    explicit FrmMain(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMain", .caption = "Quenvale", .rect = {0, 0, 800, 50}, .decor = kMainDecor, .opaque = true})
+    explicit FrmMain(ui::Stage& stage)
+        : Form(stage, {.name = "frmMain", .caption = "Quenvale", .rect = {0, 0, 800, 50}, .decor = kMainDecor, .opaque = true})
     {}
 
     ui::ControlArray<ui::Picture> Label5{*this, "Label5", kMenuRows};

@@ -15,8 +15,8 @@ inline constexpr std::array kAttemptDecor{
 };
 
 struct FrmMes : ui::Form {
-    explicit FrmMes(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMes", .rect = kAttemptSheet, .decor = kAttemptDecor})
+    explicit FrmMes(ui::Stage& stage)
+        : Form(stage, {.name = "frmMes", .rect = kAttemptSheet, .decor = kAttemptDecor})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmMes1 : ui::Form {
-    explicit FrmMes1(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMes1", .rect = kMessageSheet, .decor = kMessageDecor})
+    explicit FrmMes1(ui::Stage& stage)
+        : Form(stage, {.name = "frmMes1", .rect = kMessageSheet, .decor = kMessageDecor})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

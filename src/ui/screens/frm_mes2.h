@@ -12,8 +12,8 @@ inline constexpr std::array kOfferDecor{
 };
 
 struct FrmMes2 : ui::Form {
-    explicit FrmMes2(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMes2", .rect = kOfferSheet, .decor = kOfferDecor})
+    explicit FrmMes2(ui::Stage& stage)
+        : Form(stage, {.name = "frmMes2", .rect = kOfferSheet, .decor = kOfferDecor})
     {
         cancelButton = &Command1;
     }

@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmMes3 : ui::Form {
-    explicit FrmMes3(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMes3", .rect = kMessageSheet, .decor = kMessageDecor})
+    explicit FrmMes3(ui::Stage& stage)
+        : Form(stage, {.name = "frmMes3", .rect = kMessageSheet, .decor = kMessageDecor})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -14,8 +14,8 @@ inline constexpr ui::Rect kBannerText{70, 191, 660, 270};
 inline constexpr ui::Rect kBannerCaption{70, 352, 660, 132};
 
 struct FrmMonthBanner : ui::Form {
-    explicit FrmMonthBanner(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmMonthBanner", .rect = ui::kSpace, .back = look::kBlack, .opaque = true, .backdrop = true})
+    explicit FrmMonthBanner(ui::Stage& stage)
+        : Form(stage, {.name = "frmMonthBanner", .rect = ui::kSpace, .back = look::kBlack, .opaque = true, .backdrop = true})
     {}
 
     ui::Label Label1{*this, "Label1", kBannerText, "You are in power for 10 months", look::kBanner};

@@ -13,8 +13,8 @@ inline constexpr std::array kNameDecor{
 };
 
 struct FrmName : ui::Form {
-    explicit FrmName(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmName", .caption = "Quenvale", .rect = {150, 190, 495, 240}, .decor = kNameDecor})
+    explicit FrmName(ui::Stage& stage)
+        : Form(stage, {.name = "frmName", .caption = "Quenvale", .rect = {150, 190, 495, 240}, .decor = kNameDecor})
     {
         initialFocus = &Text1;
         defaultButton = &Command3;

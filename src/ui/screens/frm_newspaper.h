@@ -9,8 +9,8 @@ namespace screens {
 inline constexpr ui::Rect kNewspaperPage{20, 58, 760, 532};
 
 struct FrmNewspaper : ui::Form {
-    explicit FrmNewspaper(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmNewspaper", .rect = kNewspaperPage, .back = look::kBlack, .opaque = true})
+    explicit FrmNewspaper(ui::Stage& stage)
+        : Form(stage, {.name = "frmNewspaper", .rect = kNewspaperPage, .back = look::kBlack, .opaque = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -48,8 +48,8 @@ inline constexpr std::array kOptionsDecor{
 };
 
 struct FrmOptions : ui::Form {
-    explicit FrmOptions(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmOptions", .rect = {560, 58, 228, 530}, .decor = kOptionsDecor})
+    explicit FrmOptions(ui::Stage& stage)
+        : Form(stage, {.name = "frmOptions", .rect = {560, 58, 228, 530}, .decor = kOptionsDecor})
     {}
 
     ui::ControlArray<ui::Label> Label5{*this, "Label5", kOptionRows};

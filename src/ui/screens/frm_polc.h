@@ -6,7 +6,7 @@
 namespace screens {
 
 struct FrmPolc : ChiefTable {
-    explicit FrmPolc(ui::Desktop& desktop) : ChiefTable(desktop, "frmPolc", "Police Chiefs") {}
+    explicit FrmPolc(ui::Stage& stage) : ChiefTable(stage, "frmPolc", "Police Chiefs") {}
 };
 
 }  // namespace screens

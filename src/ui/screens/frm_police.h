@@ -83,8 +83,8 @@ constexpr std::array<ui::ElementRow, 49> ReportElements()
 inline constexpr std::array kReportCells = ReportElements();
 
 struct FrmPolice : ui::Form {
-    explicit FrmPolice(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmPolice", .rect = kPoliceSheet, .decor = kPoliceDecor})
+    explicit FrmPolice(ui::Stage& stage)
+        : Form(stage, {.name = "frmPolice", .rect = kPoliceSheet, .decor = kPoliceDecor})
     {}
 
     ui::Label Label10{*this, "Label10", {36, 63, 690, 30}, "POLICE CHIEF IS", look::kBandTitle};

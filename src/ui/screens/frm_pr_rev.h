@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmPrRev : ui::Form {
-    explicit FrmPrRev(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmPrRev", .rect = kPosterSheet, .decor = kPosterDecor})
+    explicit FrmPrRev(ui::Stage& stage)
+        : Form(stage, {.name = "frmPrRev", .rect = kPosterSheet, .decor = kPosterDecor})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmRandom2 : ui::Form {
-    explicit FrmRandom2(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmRandom2", .rect = kMessageSheet, .decor = kMessageDecor})
+    explicit FrmRandom2(ui::Stage& stage)
+        : Form(stage, {.name = "frmRandom2", .rect = kMessageSheet, .decor = kMessageDecor})
     {}
 
     ui::Label Label1{*this, "Label1", kMessageText, "", look::kMessageBox};

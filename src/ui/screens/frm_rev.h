@@ -6,8 +6,8 @@
 namespace screens {
 
 struct FrmRev : ui::Form {
-    explicit FrmRev(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmRev", .rect = kPosterSheet, .decor = kPosterDecor})
+    explicit FrmRev(ui::Stage& stage)
+        : Form(stage, {.name = "frmRev", .rect = kPosterSheet, .decor = kPosterDecor})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

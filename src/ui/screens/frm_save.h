@@ -6,7 +6,7 @@
 namespace screens {
 
 struct FrmSave : SlotForm {
-    explicit FrmSave(ui::Desktop& desktop) : SlotForm(desktop, {"frmSave", "Save Game", "", "Save"}) {}
+    explicit FrmSave(ui::Stage& stage) : SlotForm(stage, {"frmSave", "Save Game", "", "Save"}) {}
 };
 
 }  // namespace screens

@@ -9,8 +9,8 @@ inline constexpr CardPlan kShowPlan{.head = 137, .height = 305, .note = {476, 12
 inline constexpr std::array kShowDecor = CardDecor(kShowPlan, "TO BE SIGNED");
 
 struct FrmShow : CardForm {
-    explicit FrmShow(ui::Desktop& desktop)
-        : CardForm(desktop, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor}, kShowPlan)
+    explicit FrmShow(ui::Stage& stage)
+        : CardForm(stage, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor}, kShowPlan)
     {
         initialFocus = &Command1;
         cancelButton = &Command1;

@@ -9,8 +9,8 @@ inline constexpr CardPlan kShow2Plan{.head = 206, .height = 283, .note = {476, 2
 inline constexpr std::array kShow2Decor = CardDecor(kShow2Plan, "RECEIVED");
 
 struct FrmShow2 : CardForm {
-    explicit FrmShow2(ui::Desktop& desktop)
-        : CardForm(desktop, {.name = "frmShow2", .rect = kCardSheet, .decor = kShow2Decor}, kShow2Plan)
+    explicit FrmShow2(ui::Stage& stage)
+        : CardForm(stage, {.name = "frmShow2", .rect = kCardSheet, .decor = kShow2Decor}, kShow2Plan)
     {}
 
     ui::Label Label8{*this, "Label8", kCardTitle, "A request from the", look::kBandTitle};

@@ -17,8 +17,8 @@ inline constexpr std::array kStartDecor{
 };
 
 struct FrmStart : ui::Form {
-    explicit FrmStart(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmStart", .caption = "Quenvale", .rect = ui::kSpace, .decor = kStartDecor, .opaque = true})
+    explicit FrmStart(ui::Stage& stage)
+        : Form(stage, {.name = "frmStart", .caption = "Quenvale", .rect = ui::kSpace, .decor = kStartDecor, .opaque = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

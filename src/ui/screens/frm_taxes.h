@@ -77,8 +77,8 @@ inline constexpr std::array<ui::ElementRow, 11> kExpenseValues{{
 }};
 
 struct FrmTaxes : ui::Form {
-    explicit FrmTaxes(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmTaxes", .rect = kTaxesSheet, .decor = kTaxesDecor})
+    explicit FrmTaxes(ui::Stage& stage)
+        : Form(stage, {.name = "frmTaxes", .rect = kTaxesSheet, .decor = kTaxesDecor})
     {}
 
     ui::Label Label3{*this, "Label3", {135, 104, 120, 23}, "Tax Rate", look::kColumnCenter};

@@ -62,8 +62,8 @@ inline constexpr auto kHallDecor = [] {
 }();
 
 struct FrmTop102 : ui::Form {
-    explicit FrmTop102(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmTop102", .rect = ui::kSpace, .decor = kHallDecor, .opaque = true})
+    explicit FrmTop102(ui::Stage& stage)
+        : Form(stage, {.name = "frmTop102", .rect = ui::kSpace, .decor = kHallDecor, .opaque = true})
     {}
 
     ui::Label Label6{*this, "Label6", {150, 9, 496, 44}, "TOP-TEN  BASTARDS", look::kHallTitle};

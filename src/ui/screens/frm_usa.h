@@ -15,8 +15,8 @@ inline constexpr std::array kUsaDecor{
 };
 
 struct FrmUSA : ui::Form {
-    explicit FrmUSA(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmUSA", .rect = kUsaSheet, .decor = kUsaDecor})
+    explicit FrmUSA(ui::Stage& stage)
+        : Form(stage, {.name = "frmUSA", .rect = kUsaSheet, .decor = kUsaDecor})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

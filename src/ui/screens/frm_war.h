@@ -12,8 +12,8 @@ inline constexpr std::array kWarDecor{
 };
 
 struct FrmWAR : ui::Form {
-    explicit FrmWAR(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmWAR", .rect = kWarSheet, .decor = kWarDecor})
+    explicit FrmWAR(ui::Stage& stage)
+        : Form(stage, {.name = "frmWAR", .rect = kWarSheet, .decor = kWarDecor})
     {}
 
     ui::Picture Image1{*this, "Image1", {90, 118, 620, 250}, "The war", look::kPicture,

@@ -1,8 +1,8 @@
 // The paper message box: what the dialogs have in common that say one thing and wait for an answer.
 //
 //     struct FrmMes : ui::Form {
-//         explicit FrmMes(ui::Desktop& desktop)
-//             : Form(desktop, {.name = "frmMes", .rect = kMessageSheet, .decor = kMessageDecor})
+//         explicit FrmMes(ui::Stage& stage)
+//             : Form(stage, {.name = "frmMes", .rect = kMessageSheet, .decor = kMessageDecor})
 //         ...
 //         ui::Label Label1{*this, "Label1", kMessageText, "", look::kMessageBox};
 //         ui::CommandButton Command1{*this, "Command1", kMessageButton, "Ooops!", look::kButton};

@@ -41,58 +41,58 @@
 namespace screens {
 
 struct Screens {
-    explicit Screens(ui::Desktop& desktop) : desktop_(desktop) {}
+    explicit Screens(ui::Stage& stage) : stage_(stage) {}
 
 private:
-    ui::Desktop& desktop_;
+    ui::Stage& stage_;
 
 public:
     // The shell.
-    Frmlogo frmlogo{desktop_};
-    FrmStart frmStart{desktop_};
-    FrmName frmName{desktop_};
-    FrmAbout frmAbout{desktop_};
+    Frmlogo frmlogo{stage_};
+    FrmStart frmStart{stage_};
+    FrmName frmName{stage_};
+    FrmAbout frmAbout{stage_};
 
     // The frame of every game.
-    FrmMonthBanner frmMonthBanner{desktop_};
-    FrmMain frmMain{desktop_};
-    FrmArmy frmArmy{desktop_};
+    FrmMonthBanner frmMonthBanner{stage_};
+    FrmMain frmMain{stage_};
+    FrmArmy frmArmy{stage_};
 
     // The president's instruments.
-    FrmTaxes frmTaxes{desktop_};
-    FrmBank frmBank{desktop_};
-    FrmPolice frmPolice{desktop_};
-    FrmPolc frmPolc{desktop_};
-    FrmArmyC frmArmyC{desktop_};
-    FrmMes3 frmMes3{desktop_};
+    FrmTaxes frmTaxes{stage_};
+    FrmBank frmBank{stage_};
+    FrmPolice frmPolice{stage_};
+    FrmPolc frmPolc{stage_};
+    FrmArmyC frmArmyC{stage_};
+    FrmMes3 frmMes3{stage_};
 
     // What the president does, and what is done to him.
-    FrmActions frmActions{desktop_};
-    FrmShow frmShow{desktop_};
-    FrmShow2 frmShow2{desktop_};
-    FrmNewspaper frmNewspaper{desktop_};
-    FrmRandom2 frmRandom2{desktop_};
-    FrmUSA frmUSA{desktop_};
+    FrmActions frmActions{stage_};
+    FrmShow frmShow{stage_};
+    FrmShow2 frmShow2{stage_};
+    FrmNewspaper frmNewspaper{stage_};
+    FrmRandom2 frmRandom2{stage_};
+    FrmUSA frmUSA{stage_};
 
     // Options, saved games, the hall of fame.
-    FrmOptions frmOptions{desktop_};
-    FrmHistory frmHistory{desktop_};
-    FrmSave frmSave{desktop_};
-    FrmLoad frmLoad{desktop_};
-    FrmGameLoaded frmGameLoaded{desktop_};
-    FrmTop102 frmTop102{desktop_};
+    FrmOptions frmOptions{stage_};
+    FrmHistory frmHistory{stage_};
+    FrmSave frmSave{stage_};
+    FrmLoad frmLoad{stage_};
+    FrmGameLoaded frmGameLoaded{stage_};
+    FrmTop102 frmTop102{stage_};
 
     // The threats.
-    FrmMes frmMes{desktop_};
-    FrmAFailed frmAFailed{desktop_};
-    FrmMes1 frmMes1{desktop_};
-    FrmRev frmRev{desktop_};
-    FrmGRev frmGRev{desktop_};
-    FrmPrRev frmPrRev{desktop_};
-    FrmChoose frmChoose{desktop_};
-    FrmMes2 frmMes2{desktop_};
-    FrmWAR frmWAR{desktop_};
-    FrmAIN frmAIN{desktop_};
+    FrmMes frmMes{stage_};
+    FrmAFailed frmAFailed{stage_};
+    FrmMes1 frmMes1{stage_};
+    FrmRev frmRev{stage_};
+    FrmGRev frmGRev{stage_};
+    FrmPrRev frmPrRev{stage_};
+    FrmChoose frmChoose{stage_};
+    FrmMes2 frmMes2{stage_};
+    FrmWAR frmWAR{stage_};
+    FrmAIN frmAIN{stage_};
 };
 
 }  // namespace screens

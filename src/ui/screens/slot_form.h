@@ -24,8 +24,8 @@ struct SlotForm : ui::Form {
         std::string_view name, title, firstSlot, button;
     };
 
-    SlotForm(ui::Desktop& desktop, const Texts& texts)
-        : Form(desktop, {.name = texts.name, .rect = kSlotSheet, .decor = kSlotDecor}), texts_(texts)
+    SlotForm(ui::Stage& stage, const Texts& texts)
+        : Form(stage, {.name = texts.name, .rect = kSlotSheet, .decor = kSlotDecor}), texts_(texts)
     {
         cancelButton = &Command2;
     }

@@ -1,8 +1,5 @@
 #include "ui/toolkit/control.h"
 
-#include "ui/toolkit/desktop.h"
-#include "ui/toolkit/form.h"
-
 namespace ui {
 
 namespace {
@@ -18,9 +15,9 @@ bool AlwaysTabStop(Control::Kind kind)
 
 }  // namespace
 
-Control::Control(Form& form, Kind kind, std::string_view name, const Rect& rect, std::string_view text,
+Control::Control(Holder& holder, Kind kind, std::string_view name, const Rect& rect, std::string_view text,
                  const TextStyle& style, const Extras& extras)
-    : form_(form), name_(name), kind_(kind), style_(&style), row_(extras.row)
+    : holder_(holder), name_(name), kind_(kind), style_(&style), row_(extras.row)
 {
     design_.rect = rect;
     design_.text = text;
@@ -34,14 +31,12 @@ Control::Control(Form& form, Kind kind, std::string_view name, const Rect& rect,
     design_.mark = extras.mark;
     design_.twips = extras.twips;
     state_ = design_;
-    form_.controls_.push_back(this);
+    holder_.Add(*this);
 }
 
 void Control::MarkDirty() const
 {
-    if (form_.Visible()) {
-        form_.GetDesktop().MarkDirty(Union(state_.rect, row_).Grown(kPaintMargin));
-    }
+    holder_.MarkDirty(Union(state_.rect, row_).Grown(kPaintMargin));
 }
 
 template <class T> void Control::Change(T& field, const T& value)
@@ -122,9 +117,9 @@ void Control::Reset()
     MarkDirty();
 }
 
-TextBox::TextBox(Form& form, std::string_view name, const Rect& rect, std::string_view text,
+TextBox::TextBox(Holder& holder, std::string_view name, const Rect& rect, std::string_view text,
                  const TextStyle& style, const Extras& extras)
-    : Control(form, Kind::TextBox, name, rect, text, style, extras)
+    : Control(holder, Kind::TextBox, name, rect, text, style, extras)
 {
     edit_.SetText(text);
 }

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "ui/toolkit/geometry.h"
+#include "ui/toolkit/holder.h"
 #include "ui/toolkit/style.h"
 #include "ui/toolkit/text_edit.h"
 
@@ -24,8 +25,6 @@
 #include <vector>
 
 namespace ui {
-
-class Form;
 
 // What a control's row says beyond its name, place, text and style.
 struct Extras {
@@ -60,7 +59,7 @@ public:
         std::int64_t twips = 0;  // 1/1440 inch: exact where the place is scaled to fit
     };
 
-    Control(Form& form, Kind kind, std::string_view name, const Rect& rect, std::string_view text,
+    Control(Holder& holder, Kind kind, std::string_view name, const Rect& rect, std::string_view text,
             const TextStyle& style, const Extras& extras);
     virtual ~Control() = default;
     Control(const Control&) = delete;
@@ -68,7 +67,7 @@ public:
 
     const std::string& Name() const { return name_; }  // an array's element as "Label5(4)"
     Kind GetKind() const { return kind_; }
-    Form& GetForm() const { return form_; }
+    Form& GetForm() const { return holder_.GetForm(); }
     const TextStyle& Style() const { return *style_; }
     const Rect& Row() const { return row_; }
     const State& Now() const { return state_; }
@@ -101,7 +100,7 @@ protected:
 private:
     template <class T> void Change(T& field, const T& value);
 
-    Form& form_;
+    Holder& holder_;
     std::string name_;
     Kind kind_;
     const TextStyle* style_;
@@ -113,9 +112,9 @@ private:
 // The constructors differ in nothing but the kind; each row of a screen names one of these types.
 template <Control::Kind kKind> class ControlOf : public Control {
 public:
-    ControlOf(Form& form, std::string_view name, const Rect& rect, std::string_view text,
+    ControlOf(Holder& holder, std::string_view name, const Rect& rect, std::string_view text,
               const TextStyle& style, const Extras& extras = {})
-        : Control(form, kKind, name, rect, text, style, extras)
+        : Control(holder, kKind, name, rect, text, style, extras)
     {}
 };
 
@@ -128,7 +127,7 @@ using Shape = ControlOf<Control::Kind::Shape>;
 // A one-line text box. Its text and its editor (caret, selection) always agree.
 class TextBox : public Control {
 public:
-    TextBox(Form& form, std::string_view name, const Rect& rect, std::string_view text,
+    TextBox(Holder& holder, std::string_view name, const Rect& rect, std::string_view text,
             const TextStyle& style, const Extras& extras = {});
 
     void SetText(std::string_view text) override;
@@ -155,7 +154,7 @@ struct ElementRow {
 // Indices need not be dense; an index without an element is a programming error and throws.
 template <class C> class ControlArray {
 public:
-    ControlArray(Form& form, std::string_view name, std::span<const ElementRow> rows);
+    ControlArray(Holder& holder, std::string_view name, std::span<const ElementRow> rows);
 
     C& operator[](int index) { return *elements_.at(static_cast<std::size_t>(index)); }
     const C& operator[](int index) const { return *elements_.at(static_cast<std::size_t>(index)); }
@@ -175,7 +174,7 @@ private:
 };
 
 template <class C>
-ControlArray<C>::ControlArray(Form& form, std::string_view name, std::span<const ElementRow> rows)
+ControlArray<C>::ControlArray(Holder& holder, std::string_view name, std::span<const ElementRow> rows)
 {
     for (const ElementRow& row : rows) {
         const auto at = static_cast<std::size_t>(row.index);
@@ -183,7 +182,7 @@ ControlArray<C>::ControlArray(Form& form, std::string_view name, std::span<const
             elements_.resize(at + 1);
         }
         const std::string elementName = std::string(name) + "(" + std::to_string(row.index) + ")";
-        elements_[at] = std::make_unique<C>(form, elementName, row.rect, row.text, *row.style, row.extras);
+        elements_[at] = std::make_unique<C>(holder, elementName, row.rect, row.text, *row.style, row.extras);
     }
 }
 

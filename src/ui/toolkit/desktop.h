@@ -12,6 +12,7 @@
 #pragma once
 
 #include "ui/toolkit/form.h"
+#include "ui/toolkit/stage.h"
 
 #include <cstdint>
 #include <functional>
@@ -56,7 +57,7 @@ struct Modifiers {
 // Why the player cannot do that now; none when it was done.
 using Refusal = std::optional<std::string>;
 
-class Desktop {
+class Desktop final : public Stage {
 public:
     Desktop() = default;
     Desktop(const Desktop&) = delete;
@@ -102,7 +103,7 @@ public:
     std::function<void(const std::string&)> setClipboard;
 
     // Time ----------------------------------------------------------------------------------------
-    std::int64_t Now() const { return now_; }  // milliseconds since the start
+    std::int64_t Now() const override { return now_; }  // milliseconds since the start
     void Advance(std::int64_t milliseconds);
     std::optional<std::int64_t> NextDue() const;  // of the next armed timer
 
@@ -110,16 +111,16 @@ public:
     void Dispatch(const std::function<void()>& event);
 
     // Painting ------------------------------------------------------------------------------------
-    void MarkDirty(const Rect& rect) { dirty_ = Union(dirty_, Intersection(rect, kSpace)); }
+    void MarkDirty(const Rect& rect) override { dirty_ = Union(dirty_, Intersection(rect, kSpace)); }
     bool Dirty() const { return !dirty_.Empty(); }
     Rect TakeDirty();
 
 private:
-    friend class Form;
+    void Add(Form& form) override { forms_.push_back(&form); }
+    void BringToFront(Form& form) override;
+    void Remove(Form& form) override;
+    void AfterEvent(std::function<void()> action) override { pending_.push_back(std::move(action)); }
 
-    void BringToFront(Form& form);
-    void Remove(Form& form);
-    void AfterEvent(std::function<void()> action) { pending_.push_back(std::move(action)); }
     void Settle();
     void FireNext(std::int64_t until, bool& fired);
 

@@ -1,7 +1,5 @@
 #include "ui/toolkit/form.h"
 
-#include "ui/toolkit/desktop.h"
-
 #include <utility>
 
 namespace ui {
@@ -12,10 +10,10 @@ constexpr int kShadowMargin = 16;  // sheets and their shadows reach beyond the 
 
 }  // namespace
 
-Form::Form(Desktop& desktop, const Design& design)
-    : desktop_(desktop), design_(design), name_(design.name), rect_(design.rect), back_(design.back)
+Form::Form(Stage& stage, const Design& design)
+    : stage_(stage), design_(design), name_(design.name), rect_(design.rect), back_(design.back)
 {
-    desktop_.forms_.push_back(this);
+    stage_.Add(*this);
 }
 
 Control* Form::Find(std::string_view name) const
@@ -28,11 +26,16 @@ Control* Form::Find(std::string_view name) const
     return nullptr;
 }
 
-void Form::MarkDirty() const
+void Form::MarkDirty(const Rect& rect) const
 {
     if (visible_) {
-        desktop_.MarkDirty(rect_.Grown(kShadowMargin));
+        stage_.MarkDirty(rect);
     }
+}
+
+void Form::MarkDirty() const
+{
+    MarkDirty(rect_.Grown(kShadowMargin));
 }
 
 void Form::SetRect(const Rect& rect)
@@ -74,8 +77,8 @@ void Form::Present(bool modal)
     Load();
     modal_ = modal;
     visible_ = true;
-    desktop_.BringToFront(*this);
-    desktop_.MarkDirty(kSpace);  // a screen that comes or goes may change what others show
+    stage_.BringToFront(*this);
+    stage_.MarkDirty(kSpace);  // a screen that comes or goes may change what others show
 }
 
 void Form::Show()
@@ -94,12 +97,12 @@ void Form::Hide()
     if (!visible_) {
         return;
     }
-    desktop_.MarkDirty(kSpace);
+    stage_.MarkDirty(kSpace);
     visible_ = false;
     modal_ = false;
-    desktop_.Remove(*this);
+    stage_.Remove(*this);
     if (afterwards_) {
-        desktop_.AfterEvent(std::exchange(afterwards_, {}));
+        stage_.AfterEvent(std::exchange(afterwards_, {}));
     }
 }
 

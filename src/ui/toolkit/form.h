@@ -7,8 +7,11 @@
 #pragma once
 
 #include "ui/toolkit/control.h"
+#include "ui/toolkit/holder.h"
+#include "ui/toolkit/stage.h"
 #include "ui/toolkit/timer.h"
 
+#include <cstdint>
 #include <functional>
 #include <span>
 #include <string>
@@ -17,9 +20,7 @@
 
 namespace ui {
 
-class Desktop;
-
-class Form {
+class Form : public Holder {
 public:
     struct Design {
         std::string_view name;
@@ -31,14 +32,13 @@ public:
         bool backdrop = false;  // always behind all other screens
     };
 
-    Form(Desktop& desktop, const Design& design);
+    Form(Stage& stage, const Design& design);
     virtual ~Form() = default;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
 
     const std::string& Name() const { return name_; }
     const Design& GetDesign() const { return design_; }
-    Desktop& GetDesktop() const { return desktop_; }
     const std::vector<Control*>& Controls() const { return controls_; }
     const std::vector<Timer*>& Timers() const { return timers_; }
     Control* Find(std::string_view name) const;  // null when there is none
@@ -69,13 +69,16 @@ public:
     Control* initialFocus = nullptr;
 
 private:
-    friend class Control;
-    friend class Timer;
+    Form& GetForm() override { return *this; }
+    void Add(Control& control) override { controls_.push_back(&control); }
+    void Add(Timer& timer) override { timers_.push_back(&timer); }
+    void MarkDirty(const Rect& rect) const override;
+    std::int64_t Now() const override { return stage_.Now(); }
 
     void Present(bool modal);
     void MarkDirty() const;
 
-    Desktop& desktop_;
+    Stage& stage_;
     Design design_;
     std::string name_;
     std::vector<Control*> controls_;

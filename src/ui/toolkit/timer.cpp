@@ -1,19 +1,16 @@
 #include "ui/toolkit/timer.h"
 
-#include "ui/toolkit/desktop.h"
-#include "ui/toolkit/form.h"
-
 namespace ui {
 
-Timer::Timer(Form& form, std::string_view name) : form_(form), name_(name)
+Timer::Timer(Holder& holder, std::string_view name) : holder_(holder), name_(name)
 {
-    form_.timers_.push_back(this);
+    holder_.Add(*this);
 }
 
 void Timer::SetInterval(std::int64_t milliseconds)
 {
     armed_ = milliseconds > 0;
-    due_ = form_.GetDesktop().Now() + milliseconds;
+    due_ = holder_.Now() + milliseconds;
 }
 
 void Timer::Fire()

@@ -4,6 +4,8 @@
 //     main.Timer1.SetInterval(3000);   // fires once, 3 s from now; 0 disarms
 #pragma once
 
+#include "ui/toolkit/holder.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -11,11 +13,9 @@
 
 namespace ui {
 
-class Form;
-
 class Timer {
 public:
-    Timer(Form& form, std::string_view name);
+    Timer(Holder& holder, std::string_view name);
     Timer(const Timer&) = delete;
     Timer& operator=(const Timer&) = delete;
 
@@ -28,7 +28,7 @@ public:
     std::function<void()> onTimer;
 
 private:
-    Form& form_;
+    Holder& holder_;
     std::string name_;
     bool armed_ = false;
     std::int64_t due_ = 0;

@@ -19,22 +19,22 @@ inline constexpr std::array<ui::ElementRow, 3> kItemRows{{
 }};
 
 struct Backdrop : ui::Form {
-    explicit Backdrop(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmBack", .rect = ui::kSpace, .opaque = true, .backdrop = true})
+    explicit Backdrop(ui::Stage& stage)
+        : Form(stage, {.name = "frmBack", .rect = ui::kSpace, .opaque = true, .backdrop = true})
     {}
     ui::Label message{*this, "Label1", {100, 300, 600, 100}, "", kPlain};
 };
 
 struct Bar : ui::Form {
-    explicit Bar(ui::Desktop& desktop) : Form(desktop, {.name = "frmBar", .rect = {0, 0, 800, 50}}) {}
+    explicit Bar(ui::Stage& stage) : Form(stage, {.name = "frmBar", .rect = {0, 0, 800, 50}}) {}
     ui::ControlArray<ui::Picture> items{*this, "Item", kItemRows};
     ui::Timer first{*this, "Timer1"};
     ui::Timer second{*this, "Timer2"};
 };
 
 struct Sheet : ui::Form {
-    explicit Sheet(ui::Desktop& desktop)
-        : Form(desktop, {.name = "frmSheet", .rect = {100, 100, 400, 300}, .back = ui::Rgb(0xF3E7C9)})
+    explicit Sheet(ui::Stage& stage)
+        : Form(stage, {.name = "frmSheet", .rect = {100, 100, 400, 300}, .back = ui::Rgb(0xF3E7C9)})
     {}
     ui::Label title{*this, "Label1", {110, 110, 200, 30}, "Sheet", kPlain};
     ui::OptionButton low{*this, "Option1", {110, 150, 100, 30}, "low", kPlain};
@@ -46,7 +46,7 @@ struct Sheet : ui::Form {
 };
 
 struct Question : ui::Form {
-    explicit Question(ui::Desktop& desktop) : Form(desktop, {.name = "frmAsk", .rect = {150, 190, 500, 200}})
+    explicit Question(ui::Stage& stage) : Form(stage, {.name = "frmAsk", .rect = {150, 190, 500, 200}})
     {
         initialFocus = &box;
         defaultButton = &ok;
