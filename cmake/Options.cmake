@@ -16,6 +16,20 @@ if(NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
 endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 
+# Nothing in what the player gets tells where it was built.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
+
+# What the system offers against a fault that somebody turns into a weapon; tools/lint/binary looks whether it
+# is in the program. The sanitizers see more and do not go together with it.
+set(CMAKE_SKIP_RPATH ON)
+if(NOT QUENVALE_SANITIZE AND NOT QUENVALE_COVERAGE)
+    add_compile_options(-fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
+    if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+        add_compile_options(-fcf-protection=full)
+    endif()
+    add_link_options(-pie LINKER:-z,relro,-z,now LINKER:--as-needed)
+endif()
+
 if(QUENVALE_SANITIZE)
     add_compile_options(-fsanitize=${QUENVALE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${QUENVALE_SANITIZE})

@@ -52,7 +52,7 @@ std::filesystem::path UserDataFolder()
 ProgramFolder ProgramFolder::At(std::filesystem::path root, Place place)
 {
     std::filesystem::path user = UserDataFolder();
-    if (user.empty() || (place == Place::Program && MayWrite(root))) {
+    if (user.empty() || (place == Place::Portable && MayWrite(root))) {
         return ProgramFolder(std::move(root));
     }
     return {std::move(root), std::move(user)};
@@ -75,16 +75,18 @@ ProgramFolder ProgramFolder::Find()
         std::filesystem::path root;
         Place place;
     } places[] = {
-        {beside, Place::Program},
-        {beside / "../share/quenvale", Place::Program},
-        {QUENVALE_SOURCE_ASSETS, Place::SourceTree},  // a program that still lies in its build folder
+        {beside, Place::Portable},
+        {beside / "../share/games/quenvale", Place::Shared},
+        {beside / "../share/quenvale", Place::Shared},
+        {beside / "assets", Place::Shared},     // the game in its build folder
+        {beside / "../assets", Place::Shared},  // a test or a benchmark there
     };
     for (const auto& [root, place] : places) {
         if (LooksRight(root)) {
             return At(std::filesystem::weakly_canonical(root, error), place);
         }
     }
-    return At(beside, Place::Program);
+    return At(beside, Place::Portable);
 }
 
 }  // namespace files

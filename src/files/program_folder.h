@@ -1,12 +1,13 @@
 // The program folder: the one that holds Actions, data, Data, images, sound and Save.
 //
-// It is looked for beside the program, then in the source tree that the program was built from, then in
-// the shared data folder of an installation (../share/quenvale).
+// It is looked for from the program's own place and nowhere else, so that a program that was moved together
+// with its folder still plays: beside the program (the portable folder), in the shared data folder of an
+// installation, at last behind the link "assets" with which a build folder points at its source tree.
 //
-// What the game writes (saved games, the hall of fame) lies there too, if the player may write there. In an
-// installation for all users he may not, and in a source tree he should not, for Data/Top is kept there for
-// everybody: then these files lie in the user's data folder, and where he has none yet the shipped one is
-// read. A folder that somebody names is always used for both.
+// What the game writes (saved games, the hall of fame) lies in a portable folder too, if the player may write
+// there. An installation and a source tree are for everybody and stay as they are: then these files lie in the
+// user's data folder, and where he has none yet the shipped one is read. A folder that somebody names is always
+// used for both.
 //
 //     folder.Path("data/names")         // a shipped file
 //     folder.ReadPath("Data/Top")       // a file that the game writes, as it is now
@@ -28,7 +29,7 @@ public:
     // The folder the game uses when nobody names one; beside the program when none is found at all.
     static ProgramFolder Find();
     // The folder at this place, with the user's data folder beside it when it must not be written.
-    enum class Place { Program, SourceTree };
+    enum class Place { Portable, Shared };
     static ProgramFolder At(std::filesystem::path root, Place place);
 
     const std::filesystem::path& Root() const { return root_; }

@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace platform {
@@ -27,6 +28,7 @@ public:
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         SDL_SetHint(SDL_HINT_VIDEO_ALLOW_SCREENSAVER, "1");
         SDL_SetHint(SDL_HINT_IME_SUPPORT_EXTENDED_TEXT, "1");
+        NameTheSessionBus();
         Start();
         if (Invisible(SDL_GetCurrentVideoDriver())) {
             SDL_Quit();
@@ -38,6 +40,17 @@ public:
     Video& operator=(const Video&) = delete;
 
 private:
+    // SDL asks the session bus for the screen saver. Where no bus is named its library would start one, by a
+    // program found through PATH: an address where nobody listens says that there is none.
+    static void NameTheSessionBus()
+    {
+        if (std::getenv("DBUS_SESSION_BUS_ADDRESS") == nullptr) {
+            const char* folder = std::getenv("XDG_RUNTIME_DIR");
+            const std::string bus =
+                (folder == nullptr ? std::string("/nonexistent") : folder) + std::string("/bus");
+            setenv("DBUS_SESSION_BUS_ADDRESS", ("unix:path=" + bus).c_str(), 0);
+        }
+    }
     static void Start()
     {
         const Quiet quiet;

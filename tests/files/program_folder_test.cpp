@@ -40,14 +40,14 @@ TEST(ProgramFolder, WritesWhereItMay)
         const char* written;  // empty: the program folder itself
     };
     const Case cases[] = {
-        {"a folder of one's own", Place::Program, 0777, 0777, "/x", "/h", ""},
-        {"a source tree keeps its files clean", Place::SourceTree, 0777, 0777, "/x", "/h", "/x/quenvale"},
-        {"installed for all", Place::Program, 0555, 0555, "/x", "/h", "/x/quenvale"},
-        {"no folder for saved games can be made", Place::Program, 0555, 0777, "/x", "/h", "/x/quenvale"},
-        {"the hall's folder is closed", Place::Program, 0777, 0555, "/x", "/h", "/x/quenvale"},
-        {"no data folder is named", Place::Program, 0555, 0555, "", "/h", "/h/.local/share/quenvale"},
-        {"a relative one is not meant", Place::Program, 0555, 0555, "x", "/h", "/h/.local/share/quenvale"},
-        {"a user without a home", Place::SourceTree, 0777, 0777, "", "", ""},
+        {"a folder of one's own", Place::Portable, 0777, 0777, "/x", "/h", ""},
+        {"what is everybody's stays clean", Place::Shared, 0777, 0777, "/x", "/h", "/x/quenvale"},
+        {"a portable folder on a closed disk", Place::Portable, 0555, 0555, "/x", "/h", "/x/quenvale"},
+        {"no folder for saved games can be made", Place::Portable, 0555, 0777, "/x", "/h", "/x/quenvale"},
+        {"the hall's folder is closed", Place::Portable, 0777, 0555, "/x", "/h", "/x/quenvale"},
+        {"no data folder is named", Place::Portable, 0555, 0555, "", "/h", "/h/.local/share/quenvale"},
+        {"a relative one is not meant", Place::Portable, 0555, 0555, "x", "/h", "/h/.local/share/quenvale"},
+        {"a user without a home", Place::Shared, 0777, 0777, "", "", ""},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.why);
