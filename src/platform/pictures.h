@@ -1,19 +1,22 @@
-// The pictures of the screens, read from BMP files and scaled to the size at which they are shown.
+// The pictures of the screens, read from their files and scaled to the size at which they are shown.
 //
 //     SDL_Surface* picture = pictures.Get("images/title.bmp", 800, 600);
 //     if (picture == nullptr) { ... }      // missing or broken: told once on standard error
+//
+// A picture that would be enlarged by more than a quarter is read from the file of twice the size,
+// "images/2x/title.png", when there is one. Only the file in use is read.
 //
 // A large picture is kept only while a screen that shows it is up; after painting, KeepOnly says which
 // those are. Small ones (the menu's keys, the marks) stay.
 #pragma once
 
 #include "files/program_folder.h"
+#include "platform/picture_file.h"
 
 #include <SDL2/SDL_surface.h>
 
 #include <functional>
 #include <map>
-#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -32,16 +35,11 @@ public:
     std::size_t Kept() const { return kept_.size(); }
 
 private:
-    struct Deleter {
-        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-    };
-    using Surface = std::unique_ptr<SDL_Surface, Deleter>;
-
-    Surface Load(const std::string& file) const;
+    PictureSurface Read(const std::string& file, int width);
     void Tell(const std::string& file, const std::string& reason);
 
     files::ProgramFolder folder_;
-    std::map<std::tuple<std::string, int, int>, Surface> kept_;
+    std::map<std::tuple<std::string, int, int>, PictureSurface> kept_;
     std::set<std::string> told_;
 };
 

@@ -5,8 +5,10 @@
 #include "platform/sheet.h"
 
 #include <gtest/gtest.h>
+#include <png.h>
 
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -18,6 +20,55 @@ void SaveBmp(const test::TemporaryFolder& folder, const char* name, int width, i
 {
     folder.Write(name, "");
     SDL_SaveBMP(MakeSurface(width, height).get(), folder.Path(name).c_str());
+}
+
+// One colour, as blue, green, red and opacity.
+void SavePng(const test::TemporaryFolder& folder, const char* name, unsigned width, unsigned height,
+             std::array<png_byte, 4> color)
+{
+    folder.Write(name, "");
+    std::vector<png_byte> pixels;
+    for (unsigned i = 0; i < width * height; ++i) {
+        pixels.insert(pixels.end(), color.begin(), color.end());
+    }
+    png_image image{};
+    image.version = PNG_IMAGE_VERSION;
+    image.width = width;
+    image.height = height;
+    image.format = PNG_FORMAT_BGRA;
+    png_image_write_to_file(&image, folder.Path(name).c_str(), 0, pixels.data(), 0, nullptr);
+}
+
+TEST(Pictures, AreReadFromTheFileThatNeedsNoEnlarging)
+{
+    constexpr std::uint32_t kSingle = 0xFF0000U;
+    constexpr std::uint32_t kDouble = 0x00FF00U;
+    test::TemporaryFolder folder;
+    SavePng(folder, "images/office/lamp.png", 40, 30, {0, 0, 255, 255});
+    SavePng(folder, "images/2x/office/lamp.png", 80, 60, {0, 255, 0, 255});
+    SavePng(folder, "images/alone.png", 40, 30, {0, 0, 255, 255});
+    SavePng(folder, "images/torn.png", 40, 30, {0, 0, 255, 255});
+    folder.Write("images/2x/torn.png", folder.Read("images/2x/office/lamp.png").substr(0, 60));
+    Pictures pictures{files::ProgramFolder(folder.Path())};
+    struct Case {
+        const char* why;
+        const char* file;
+        int width;
+        std::uint32_t color;
+    };
+    for (const Case& c : {Case{"its own size", "images/office/lamp.png", 40, kSingle},
+                          {"smaller", "images/office/lamp.png", 20, kSingle},
+                          {"a quarter larger", "images/office/lamp.png", 50, kSingle},
+                          {"just above that", "images/office/lamp.png", 51, kDouble},
+                          {"twice the size", "images/office/lamp.png", 80, kDouble},
+                          {"there is only one", "images/alone.png", 80, kSingle},
+                          {"the other one is broken", "images/torn.png", 80, kSingle}}) {
+        SCOPED_TRACE(c.why);
+        SDL_Surface* picture = pictures.Get(c.file, c.width, c.width * 3 / 4);
+        ASSERT_NE(picture, nullptr);
+        EXPECT_EQ(picture->w, c.width);
+        EXPECT_EQ(PixelAt(*picture, c.width / 2, 10), c.color);
+    }
 }
 
 TEST(Pictures, AreRefusedWhenTheyAreMissingOrBroken)
@@ -34,11 +85,16 @@ TEST(Pictures, AreRefusedWhenTheyAreMissingOrBroken)
     folder.Write("huge.bmp", with(18, "\xFF\xFF\xFF\x7F"));
     folder.Write("flat.bmp", with(22, std::string_view("\0\0\0\0", 4)));
     folder.Write("deep.bmp", with(28, "\x63"));
+    SavePng(folder, "good.png", 40, 30, {0, 0, 255, 128});
+    const std::string png = folder.Read("good.png");
+    folder.Write("torn.png", png.substr(0, 50));
+    folder.Write("wide.png", std::string(png).replace(16, 4, "\x7F\x7F\x7F\x7F"));
 
     Pictures pictures{files::ProgramFolder(folder.Path())};
     ASSERT_NE(pictures.Get("good.bmp", 40, 30), nullptr);
-    for (const char* name :
-         {"missing.bmp", "empty.bmp", "text.bmp", "head.bmp", "huge.bmp", "flat.bmp", "deep.bmp", "."}) {
+    ASSERT_NE(pictures.Get("good.png", 40, 30), nullptr);
+    for (const char* name : {"missing.bmp", "empty.bmp", "text.bmp", "head.bmp", "huge.bmp", "flat.bmp",
+                             "deep.bmp", "torn.png", "wide.png", "."}) {
         SCOPED_TRACE(name);
         testing::internal::CaptureStderr();
         EXPECT_EQ(pictures.Get(name, 40, 30), nullptr);
