@@ -1,12 +1,15 @@
-"""Writes the bitmap files that SDL_LoadBMP reads.
+"""Writes the picture files.
 
-    write_opaque(image, "title.bmp")     # 24 bits, BITMAPINFOHEADER, no alpha
-    write_alpha(image, "emblem.bmp")     # 32 bits, BITMAPV4HEADER, straight alpha
+    write_opaque(image, "title.bmp")     # BMP, 24 bits, BITMAPINFOHEADER, no alpha
+    write_alpha(image, "emblem.bmp")     # BMP, 32 bits, BITMAPV4HEADER, straight alpha
+    write_palette(image, "title.png", 128)    # PNG of at most so many colours, with or without alpha
 
-Both are uncompressed and stored bottom row first. Nothing but the pixels goes into a
+The bitmaps are uncompressed and stored bottom row first. Nothing but the pixels goes into a
 file, so equal pictures give equal bytes.
 """
+import os
 import struct
+import subprocess
 
 from PIL import Image
 
@@ -27,10 +30,21 @@ def _headers(image, header_size, bits, compression, data_size):
                         PIXELS_PER_METRE, PIXELS_PER_METRE, 0, 0))
 
 
+def over_black(image):
+    black = Image.new('RGBA', image.size, (0, 0, 0, 255))
+    return Image.alpha_composite(black, image.convert('RGBA')).convert('RGB')
+
+
+def write_palette(image, file_name, colours):
+    """Chooses the colours for this picture; in one thread, so that the choice is always the same."""
+    image.save(file_name, compress_level=1)
+    subprocess.run(['pngquant', '--force', '--strip', '--nofs', '--speed', '3', '--output', str(file_name),
+                    str(colours), str(file_name)], check=True, env=dict(os.environ, OMP_NUM_THREADS='1'))
+
+
 def write_opaque(image, file_name):
     """Lays the picture over black and writes 24 bits a pixel."""
-    black = Image.new('RGBA', image.size, (0, 0, 0, 255))
-    flat = Image.alpha_composite(black, image.convert('RGBA')).convert('RGB')
+    flat = over_black(image)
     stride = (flat.width * 3 + 3) & ~3      # rows are padded to whole double words
     data = flat.tobytes('raw', 'BGR', stride, -1)
     with open(file_name, 'wb') as out:

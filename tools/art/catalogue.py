@@ -1,11 +1,13 @@
 """All pictures of the game: name, size, how to draw it, and the definitions its SVG needs.
 
-The name is the path of the files without their ending: art/NAME.svg is rendered to assets/images/NAME.bmp.
+The name is the path of the files without their ending: art/NAME.svg is rendered to assets/images/NAME.bmp, or
+to NAME.png, and at twice the size to assets/images/2x/NAME.png.
 """
 import dataclasses
 from typing import Callable
 
 import country_map
+import farewell
 import menu
 import newspaper
 import officer
@@ -29,9 +31,14 @@ class Picture:
     draw: Callable[[], str]
     definitions: Callable[[], str] = str        # str() is the empty text
     alpha: bool = False                         # keeps soft edges; otherwise laid over black
+    palette: bool = False                       # a PNG also at the size of the layout
+    colours: int = 128                          # of its PNG files
 
     def svg(self):
         return document(self.width, self.height, self.draw(), self.definitions(), self.title)
+
+
+NEWSPRINT = 32          # three inks and their edges; the grain of the paper needs no more
 
 
 def _emblem_and_filters():
@@ -76,8 +83,18 @@ def _scenes():
 
 def _newspapers():
     return [Picture(name, 'Newspaper: ' + story.headline, newspaper.WIDTH, newspaper.HEIGHT,
-                    lambda story=story: newspaper.newspaper_page(story), filters)
+                    lambda story=story: newspaper.newspaper_page(story), filters, colours=NEWSPRINT)
             for name, story in STORIES.items()]
+
+
+def _farewell():
+    pictures = {'executed': farewell.executed, 'basement': farewell.found_in_the_basement,
+                'assassinated': farewell.assassinated, 'escaped': farewell.escaped}
+    return [Picture('farewell', 'Newspaper: the last page', newspaper.WIDTH, newspaper.HEIGHT, farewell.page, filters,
+                    palette=True, colours=NEWSPRINT)] + \
+        [Picture('farewell-' + end, 'The end: ' + end, farewell.WIDTH, farewell.FRAME_HEIGHT,
+                 lambda draw=draw: farewell.framed(draw()), filters, palette=True,
+                 colours=NEWSPRINT) for end, draw in pictures.items()]
 
 
 def _menu_keys():
@@ -97,4 +114,4 @@ def _marks():
 
 
 def pictures():
-    return _screens() + _scenes() + _newspapers() + _menu_keys() + _marks()
+    return _screens() + _scenes() + _newspapers() + _farewell() + _menu_keys() + _marks()

@@ -35,14 +35,17 @@ class Story:
 
 
 def newspaper_page(story):
+    return blank_page(story.number, _headline(story), _illustration(story), _columns(story))
+
+
+def blank_page(number, *printed):
+    """The page with its masthead and ears, and what is printed below them."""
     return layers(
         group('paper', rect(0, 0, WIDTH, HEIGHT, News.LIGHT), fibre(WIDTH, HEIGHT, .9)),
         _masthead(),
         group('ears', _ear(18, 'WEATHER', 'Sunny, by order', 'of the Palace'),
-              _ear(WIDTH - 130, story.number, 'Final edition,', 'as usual')),
-        _headline(story),
-        _illustration(story),
-        _columns(story),
+              _ear(WIDTH - 130, number, 'Final edition,', 'as usual')),
+        *printed,
         group('fold', rect(0, HEIGHT - 7, WIDTH, 7, '#C9BB96'), rect(0, HEIGHT - 7, WIDTH, 1, '#A8966A'),
               rect(0, 0, WIDTH, HEIGHT, '#000', filter='url(#grain)', opacity=.09)))
 

@@ -24,4 +24,6 @@ class News:
     PAPER = '#D9CBA6'       # inside the illustrations
     RAY = '#C2B187'
     SHADE = '#B7A57C'
+    SOOT = '#2A2420'
+    MUD = '#94866C'
     LIGHT = '#EFE5CB'       # the sheet itself

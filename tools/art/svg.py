@@ -102,8 +102,9 @@ def ring(x, y, radius, colour, width):
     return circle(x, y, radius, 'none', stroke=colour, stroke_width='%g' % width)
 
 
-def ellipse(x, y, radius_x, radius_y, fill):
-    return fmt('<ellipse cx="%s" cy="%s" rx="%s" ry="%s"', x, y, radius_x, radius_y) + ' fill="%s"/>' % fill
+def ellipse(x, y, radius_x, radius_y, fill, **attrs):
+    return fmt('<ellipse cx="%s" cy="%s" rx="%s" ry="%s"', x, y, radius_x, radius_y) + \
+        ' fill="%s"%s/>' % (fill, attributes(attrs))
 
 
 def use(symbol, x, y, size):
