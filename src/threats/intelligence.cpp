@@ -8,15 +8,14 @@ namespace threats {
 
 namespace {
 
-constexpr std::int64_t kHarmless = 64;      // the highest Opposition without a bar
-constexpr std::int64_t kTwipsAPoint = 300;  // above it
+constexpr std::int64_t kHarmless = 64;  // the highest Opposition without a bar
 constexpr std::int64_t kPixelsAPoint = screens::kBarPixels;
 
 // Its exact length is kept in twips; drawn it is cut where the room ends, and a sign says so.
 void Draw(ui::Shape& bar, ui::Label& goesOn, std::int64_t opposition)
 {
     const std::int64_t points = opposition - kHarmless;
-    bar.SetTwips(bar.Now().twips + points * kTwipsAPoint);
+    bar.SetTwips(bar.Now().twips + points * screens::kBarPointTwips);
     const std::int64_t width = screens::kBarPixels + points * kPixelsAPoint;
     ui::Rect place = bar.Place();
     place.width = static_cast<int>(std::min<std::int64_t>(width, screens::kBarRoom));

@@ -3,6 +3,7 @@
 #include "console/listing.h"
 #include "console/shot.h"
 #include "core/fields.h"
+#include "ui/reading/reading.h"
 
 #include <algorithm>
 #include <array>
@@ -82,6 +83,7 @@ std::span<const Session::Request> Session::Requests()
         Request{"text", When::Started, &Session::Text},
         Request{"banner", When::Started, &Session::Banner},
         Request{"sounds", When::Started, &Session::Sounds},
+        Request{"read", When::Started, &Session::Read},
         Request{"timers", When::Started, &Session::Timers},
         Request{"program", When::Started, &Session::Program},
         Request{"get", When::Started, &Session::Get},
@@ -299,6 +301,12 @@ void Session::Sounds(Words& words, Json& reply)
 {
     words.End();
     reply["sounds"] = std::exchange(run_->host.sounds, {});
+}
+
+void Session::Read(Words& words, Json& reply)
+{
+    words.End();
+    reply["lines"] = reading::ReadAll(Desktop());
 }
 
 void Session::Timers(Words& words, Json& reply)

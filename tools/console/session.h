@@ -72,6 +72,7 @@ private:
     void Text(Words& words, Json& reply);
     void Banner(Words& words, Json& reply);
     void Sounds(Words& words, Json& reply);
+    void Read(Words& words, Json& reply);
     void Timers(Words& words, Json& reply);
     void Program(Words& words, Json& reply);
     void Get(Words& words, Json& reply);

@@ -15,6 +15,7 @@ inline constexpr int kBarLeft = 220;
 inline constexpr int kBarRoom = 514;    // a longer bar is cut here, and a sign says so
 inline constexpr int kBarPixels = 13;   // of a bar without a threat, and of each point of one
 inline constexpr int kBarTwips = 195;   // the former's exact length
+inline constexpr int kBarPointTwips = 300;  // the latter's
 
 constexpr int ForecastTop(int faction)
 {

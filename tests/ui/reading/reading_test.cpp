@@ -1,0 +1,171 @@
+// Every screen has words: at its start, with its longest and its most extreme values.
+#include "support/test_game.h"
+#include "ui/reading/reading.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+
+namespace {
+
+using namespace reading;
+using ui::Control;
+
+// A name of the program that got into a line: frmMain, Label5(4), lblPER, images/title.bmp.
+bool HasCodeName(const std::string& line)
+{
+    static const std::regex kCode(
+        R"((frm[A-Z]\w*)|((Label|Command|Option|Text|Image|Shape|OLE|OutNum|lbl\w*|Rpro|APro)\d*\()|(\blbl[A-Z])|(\.bmp)|(images/)|[{}])");
+    return std::regex_search(line, kCode);
+}
+
+void ExpectLines(const std::vector<std::string>& lines, const std::string& where)
+{
+    for (const std::string& line : lines) {
+        EXPECT_LE(line.size(), kLongestLine) << where << ": " << line;
+        EXPECT_FALSE(line.empty()) << where;
+        EXPECT_FALSE(HasCodeName(line)) << where << ": " << line;
+    }
+}
+
+bool Silent(const Control& control)
+{
+    const Spoken* row = FindSpoken(control);
+    const Spoken* picture = FindSpoken(std::string_view(control.Now().picture));
+    return (row != nullptr && row->said == "-") || (picture != nullptr && picture->said == "-") ||
+           !control.Place().Overlaps(ui::kSpace);
+}
+
+class Walk : public testing::Test {
+protected:
+    // Shows each screen alone with everything on it, each text set by `text`, and looks at its words.
+    template <class Text> void ForEach(const Text& text)
+    {
+        for (ui::Form* form : game_.Desktop().Forms()) {
+            form->Show();
+            for (Control* control : form->Controls()) {
+                control->SetVisible(true);
+                text(*control);
+            }
+            LookAt(*form);
+            form->Hide();
+        }
+    }
+
+    static void LookAt(const ui::Form& form)
+    {
+        const Page page = Read(form);
+        EXPECT_FALSE(page.title.empty()) << form.Name() << " has no title in the table";
+        ExpectLines(ReadScreen(page), form.Name());
+        ExpectLines(Summary(page), form.Name());
+        for (const Control* control : form.Controls()) {
+            const std::string where = form.Name() + "." + control->Name();
+            if (Silent(*control)) {
+                continue;
+            }
+            if (!control->Text().empty() && control->Text() != " ") {
+                EXPECT_FALSE(SaidControl(*control).empty()) << where;
+            }
+            EXPECT_EQ(page.Find(*control) == nullptr, SaidControl(*control).empty())
+                << where << " is in no row";
+            ExpectLines(Lines(FocusLine(*control)), where);
+        }
+    }
+
+    test::TestGame game_;
+};
+
+TEST_F(Walk, EveryControlHasItsWords)
+{
+    ForEach([](Control& control) {
+        if (control.Text().empty() && control.GetKind() != Control::Kind::Shape) {
+            control.SetText("Something");
+        }
+    });
+}
+
+TEST_F(Walk, ExtremesHaveTheirsToo)
+{
+    const std::string longest[] = {std::string(500, 'W'), "-2,147,483,648$",
+                                   "大統領, {}: " + std::string(300, 'm')};
+    ForEach([&longest](Control& control) {
+        const std::string& text = longest[control.Name().size() % 2];
+        if (control.GetKind() != Control::Kind::Shape) {
+            control.SetText(text);
+        }
+        control.SetTwips(9'000'000);
+        control.SetMark(ui::Mark::Triangle);
+    });
+}
+
+// A row of the table that nothing answers to is a slip of the pen.
+TEST_F(Walk, EveryRowOfTheTableIsUsed)
+{
+    const ui::Desktop& desktop = game_.Desktop();
+    for (const Spoken& row : SpokenTable()) {
+        const std::string_view what = row.what.substr(0, row.what.find(' '));
+        if (what.starts_with("images/")) {
+            EXPECT_TRUE(std::filesystem::exists(game_.game.Folder().Path(what))) << what;
+        } else if (!what.starts_with("mark:") && desktop.FindForm(what) == nullptr) {
+            bool used = false;
+            for (const ui::Form* form : desktop.Forms()) {
+                for (const Control* control : form->Controls()) {
+                    used =
+                        used || FindSpoken(*control) == &row || form->Name() + "." + control->Name() == what;
+                }
+            }
+            EXPECT_TRUE(used) << what;
+        }
+    }
+}
+
+std::string All(const std::vector<std::string>& lines)
+{
+    std::string all;
+    for (const std::string& line : lines) {
+        all += line + "\n";
+    }
+    return all;
+}
+
+// The main screens at the start of a game, as they are said.
+TEST(Reading, SaysTheTablesByRowAndColumn)
+{
+    test::TestGame game;
+    game.StartGame();
+    game.Set({{"Opposition[Workers]", 66}, {"Strength[Workers]", 30}});
+    const auto read = [&game](const char* menu, const char* form) {
+        game.Click(menu);
+        return All(ReadScreen(Read(game.Form(form))));
+    };
+    const auto has = [](const std::string& all, const char* line) {
+        EXPECT_NE(all.find(line), std::string::npos) << line << "\nis not in\n" << all;
+    };
+    const std::string taxes = read("frmMain.Label5(1)", "frmTaxes");
+    has(taxes, "\nWorkers, tax rate 2, tax income 6.18 million dollars.\n");
+    has(taxes, "\nIncome: 45 million dollars.\n");
+    has(taxes, "\nWorkers: 140 dollars.\n");
+    has(taxes, "\nBalance: minus 15.6 million dollars.\n");
+    EXPECT_EQ(FocusLine(game.Control("frmTaxes.Command1")),
+              "Raise, button. Workers, tax rate 2, tax income 6.18 million dollars. Row 1 of 6.");
+
+    const std::string police = read("frmMain.Label5(2)", "frmPolice");
+    has(police, "\nWorkers, population 2.21 million, strength 30, share of all strength 11.4 per cent, "
+                "opposition 66 per cent, may revolt or send an assassin.\n");
+    const Page page = Read(game.Form("frmPolice"));
+    const Row* row = page.Find(game.Control("frmPolice.lblPER(30)"));
+    ASSERT_NE(row, nullptr);
+    EXPECT_EQ(PlaceOf(*row), "Row 1 of 11");
+    EXPECT_EQ(SaidCell(*row, row->cells.at(1)), "Population 2,206,140. Workers.");
+
+    game.Click("frmMain.Label5(0)");
+    EXPECT_EQ(FocusLine(*game.Desktop().Focused()), "Decrease Education expenses, button. 1 of 24.");
+    game.Click("frmActions.Command1(2)");
+    const std::string card = All(Summary(Read(game.Form("frmShow"))));
+    has(card, "An action card, to be signed.");
+    has(card, "\nWorkers, strength ");
+    has(card, "\nStamped: to be signed.\n");
+    EXPECT_EQ(card.find("no change, opposition no change"), std::string::npos) << card;
+}
+
+}  // namespace
