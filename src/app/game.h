@@ -10,6 +10,7 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "core/month_chain.h"
 #include "core/month_end.h"
 #include "core/new_game.h"
@@ -68,6 +69,7 @@ public:
     screens::Screens& GetScreens() { return screens_; }
     core::GameState& State() { return state_; }
     core::Chance& GetChance() { return chance_; }
+    core::Journal& GetJournal() { return journal_; }
     const files::ProgramFolder& Folder() const { return folder_; }
 
     // The routine of that name ("FixNum", "Timer4_Timer"), or null.
@@ -88,13 +90,14 @@ private:
     core::NumberFormat format_;
     core::Chance chance_;
     core::GameState state_;
+    core::Journal journal_{state_};
     ui::Desktop desktop_;
     screens::Screens screens_{desktop_};
     media::Sound sound_{host_};
 
     // The month.
     core::NewGame newGame_{state_, chance_, folder_, screens_.frmMain, screens_.frmMonthBanner};
-    core::MonthEnd monthEnd_{state_, chance_, screens_.frmMain, screens_.frmMonthBanner};
+    core::MonthEnd monthEnd_{state_, chance_, journal_, screens_.frmMain, screens_.frmMonthBanner};
     core::MonthChain chain_{state_, screens_.frmMain, screens_.frmMonthBanner};
 
     // Events and requests.

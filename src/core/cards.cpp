@@ -1,6 +1,6 @@
 #include "core/cards.h"
 
-#include "core/group_names.h"
+#include "core/names.h"
 #include "core/numbers.h"
 #include "core/short_text.h"
 #include "files/text_records.h"

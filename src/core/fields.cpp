@@ -1,7 +1,7 @@
 #include "core/fields.h"
 
-#include "core/group_names.h"
 #include "core/member_count.h"
+#include "core/names.h"
 
 #include <algorithm>
 #include <charconv>

@@ -24,7 +24,9 @@ void MonthEnd::EndOfTurn()
         Say(banner_, kCannotPay);
         return;
     }
+    const std::int64_t treasury = state_.Money;
     CountMonth(state_);
+    journal_.Add(Kind::Month, Who::Nobody, state_.Money - treasury);
     Say(banner_, "You are in power for " + Digits(state_.MonthsInPower) + " months");
     main_.SetEnabled(false);
     DecidePoliceReport(state_, chance_);

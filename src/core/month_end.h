@@ -7,6 +7,7 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "ui/screens/frm_main.h"
 #include "ui/screens/frm_month_banner.h"
 
@@ -14,8 +15,9 @@ namespace core {
 
 class MonthEnd {
 public:
-    MonthEnd(GameState& state, Chance& chance, screens::FrmMain& main, screens::FrmMonthBanner& banner)
-        : state_(state), chance_(chance), main_(main), banner_(banner)
+    MonthEnd(GameState& state, Chance& chance, Journal& journal, screens::FrmMain& main,
+             screens::FrmMonthBanner& banner)
+        : state_(state), chance_(chance), journal_(journal), main_(main), banner_(banner)
     {}
 
     void EndOfTurn();
@@ -24,6 +26,7 @@ public:
 private:
     GameState& state_;
     Chance& chance_;
+    Journal& journal_;
     screens::FrmMain& main_;
     screens::FrmMonthBanner& banner_;
 };

@@ -1,7 +1,7 @@
 #include "events/proposals.h"
 
 #include "core/banner.h"
-#include "core/group_names.h"
+#include "core/names.h"
 #include "core/society.h"
 #include "events/proposal_rules.h"
 

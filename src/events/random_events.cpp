@@ -1,6 +1,6 @@
 #include "events/random_events.h"
 
-#include "core/group_names.h"
+#include "core/names.h"
 #include "events/disasters.h"
 #include "events/proposal_rules.h"
 

@@ -2,7 +2,7 @@
 
 #include "core/banner.h"
 #include "core/cards.h"
-#include "core/group_names.h"
+#include "core/names.h"
 #include "core/numbers.h"
 #include "events/card_effects.h"
 #include "events/card_view.h"

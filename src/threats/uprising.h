@@ -26,7 +26,7 @@
 #pragma once
 
 #include "core/game_state.h"
-#include "core/group_names.h"
+#include "core/names.h"
 
 #include <cstdint>
 #include <string_view>

@@ -123,4 +123,16 @@ Json ListDraws(const std::vector<core::Chance::Drawn>& draws)
     return listed;
 }
 
+Json ListNotes(const std::vector<core::Note>& notes)
+{
+    Json listed = Json::array();
+    for (const core::Note& note : notes) {
+        listed.push_back({{"kind", core::NameOf(note.kind)},
+                          {"who", core::NameOf(note.who)},
+                          {"amount", note.amount},
+                          {"month", note.month}});
+    }
+    return listed;
+}
+
 }  // namespace console

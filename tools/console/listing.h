@@ -4,6 +4,7 @@
 #include "console/reply.h"
 #include "core/chance.h"
 #include "core/fields.h"
+#include "core/journal.h"
 #include "ui/toolkit/desktop.h"
 
 #include <string>
@@ -17,5 +18,6 @@ Json ListTimers(const ui::Desktop& desktop);   // the armed ones: milliseconds l
 Json ValueOf(const core::Value& value);
 Json ListState(const core::GameState& state);  // every element by its name
 Json ListDraws(const std::vector<core::Chance::Drawn>& draws);
+Json ListNotes(const std::vector<core::Note>& notes);
 
 }  // namespace console

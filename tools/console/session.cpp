@@ -60,6 +60,7 @@ std::string PrintedError(std::string_view why)
 Session::Run::Run(files::ProgramFolder folder) : game(host, std::move(folder), core::Chance(ClockTicks))
 {
     game.GetChance().onDraw = [this](const core::Chance::Drawn& draw) { drawn.push_back(draw); };
+    game.GetJournal().Listen([this](const core::Note& note) { notes.push_back(note); });
     game.Start();
 }
 
@@ -89,6 +90,7 @@ std::span<const Session::Request> Session::Requests()
         Request{"get", When::Started, &Session::Get},
         Request{"state", When::Started, &Session::State},
         Request{"drawn", When::Started, &Session::Drawn},
+        Request{"journal", When::Started, &Session::Journal},
         Request{"shot", When::Started, &Session::Shot},
     };
     return kRequests;
@@ -342,6 +344,12 @@ void Session::Drawn(Words& words, Json& reply)
 {
     words.End();
     reply["drawn"] = ListDraws(std::exchange(run_->drawn, {}));
+}
+
+void Session::Journal(Words& words, Json& reply)
+{
+    words.End();
+    reply["journal"] = ListNotes(std::exchange(run_->notes, {}));
 }
 
 void Session::Shot(Words& words, Json& /*reply*/)

@@ -35,6 +35,7 @@ private:
         media::RecordingHost host;
         Game game;
         std::vector<core::Chance::Drawn> drawn;
+        std::vector<core::Note> notes;
     };
     // What a CONTROL names: a screen, or one of its controls.
     struct Target {
@@ -78,6 +79,7 @@ private:
     void Get(Words& words, Json& reply);
     void State(Words& words, Json& reply);
     void Drawn(Words& words, Json& reply);
+    void Journal(Words& words, Json& reply);
     void Shot(Words& words, Json& reply);
 
     std::unique_ptr<Run> run_;
