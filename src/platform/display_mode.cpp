@@ -45,6 +45,9 @@ std::optional<SDL_DisplayMode> FindGameMode(int display)
 
 void EnterFullScreen(SDL_Window& window, Guard& guard, WindowPlace& before)
 {
+    if (IsFullScreen(window)) {
+        return;
+    }
     const int display = std::max(SDL_GetWindowDisplayIndex(&window), 0);
     SDL_DisplayMode desktop{};
     SDL_GetDesktopDisplayMode(display, &desktop);

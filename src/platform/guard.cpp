@@ -8,17 +8,19 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <limits>
 
 namespace platform {
 
 namespace {
 
-constexpr char kRemember = 'R';
-constexpr char kForget = 'F';
-constexpr char kDone = 'D';
-constexpr int kPatience = 2000;  // ms that a switch may wait for the guard
+// An order is one byte: this, or a number by which to remember. The answer is that number again, so that one
+// which came too late for its own question is not taken for the next one's.
+constexpr unsigned char kForget = 0;
+constexpr std::chrono::milliseconds kPatience{2000};  // that a switch may wait for the guard
 
 // What ends the game must not end the guard, and nobody who reads the game's output should wait for it.
 void StandApart(int pipe)
@@ -41,14 +43,14 @@ void StandApart(int pipe)
 {
     StandApart(pipe);
     ScreenModes modes;
-    char order = 0;
+    unsigned char order = kForget;
     while (read(pipe, &order, 1) == 1) {
         if (order == kForget) {
             modes = {};
             continue;
         }
         modes = ReadScreenModes();
-        if (send(pipe, &kDone, 1, MSG_NOSIGNAL) != 1) {
+        if (send(pipe, &order, 1, MSG_NOSIGNAL) != 1) {
             break;
         }
     }
@@ -89,19 +91,38 @@ Guard::~Guard()
 
 void Guard::Remember()
 {
-    if (pipe_ < 0 || send(pipe_, &kRemember, 1, MSG_NOSIGNAL) != 1) {
+    if (remembers_ || pipe_ < 0) {
         return;
     }
-    pollfd answer{pipe_, POLLIN, 0};
-    char done = 0;
-    if (poll(&answer, 1, kPatience) == 1 && recv(pipe_, &done, 1, 0) != 1) {
-        close(pipe_);
-        pipe_ = -1;
+    remembers_ = true;
+    order_ = order_ == std::numeric_limits<unsigned char>::max() ? 1 : static_cast<unsigned char>(order_ + 1);
+    if (send(pipe_, &order_, 1, MSG_NOSIGNAL) == 1) {
+        AwaitAnswer();
+    }
+}
+
+void Guard::AwaitAnswer()
+{
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point end = Clock::now() + kPatience;
+    unsigned char answered = kForget;
+    while (answered != order_) {
+        const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+        pollfd answer{pipe_, POLLIN, 0};
+        if (left.count() <= 0 || poll(&answer, 1, static_cast<int>(left.count())) != 1) {
+            return;
+        }
+        if (recv(pipe_, &answered, 1, 0) != 1) {
+            close(pipe_);
+            pipe_ = -1;
+            return;
+        }
     }
 }
 
 void Guard::Forget()
 {
+    remembers_ = false;
     if (pipe_ >= 0) {
         send(pipe_, &kForget, 1, MSG_NOSIGNAL);
     }

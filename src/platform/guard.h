@@ -1,7 +1,8 @@
 // Gives the player the display's mode back when the game is gone and could not do so itself.
 //
 //     Guard guard;             // before SDL is started, while the program has one thread
-//     guard.Remember();        // before the mode is switched; returns when the modes are written down
+//     guard.Remember();        // before the mode is switched; returns when the modes are written down. What is
+//                              // remembered already stays: by then the mode may be our own
 //     guard.Forget();          // after the game has put the mode back
 //
 // The guard is a small process of its own that waits at the other end of a pipe. When the pipe ends while
@@ -22,7 +23,11 @@ public:
     void Forget();
 
 private:
+    void AwaitAnswer();
+
     int pipe_ = -1;
+    bool remembers_ = false;
+    unsigned char order_ = 0;  // the number of the last order to remember
 };
 
 }  // namespace platform

@@ -84,6 +84,20 @@ class Modes(stage.Case):
         self.until_ended(game, guards, -signal.SIGKILL)
         self.assertEqual(server.mode(), DESKTOP)
 
+    def test_full_screen_key_before_the_title_is_clicked(self):
+        """The click asks for full screen again; what came first is still what a crash gives back."""
+        server = self.server_with_modes(DESKTOP, OURS)
+        game, console = self.open_title(server)
+        game.hands("key", "F11")
+        self.until("the game's mode is set", lambda: server.mode() == OURS)
+        game.click(stage.TITLE)
+        console.ask("click frmlogo")
+        self.until_shows(game, console, "the start screen")
+        guards = game.guards()
+        game.process.send_signal(signal.SIGKILL)
+        self.until_ended(game, guards, -signal.SIGKILL)
+        self.until("the old mode is back", lambda: server.mode() == DESKTOP)
+
 
 if __name__ == "__main__":
     stage.main()

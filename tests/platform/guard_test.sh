@@ -25,7 +25,7 @@ mode_is() { # WAY MODE
     [ "$now" = "$2" ]
 }
 
-for way in kill segv exit; do
+for way in kill segv exit late; do
     "$probe" "$way" || true
     mode_is "$way" 1280x1024
 done
