@@ -149,6 +149,14 @@ void Game::ListRoutines()
         {"save", [this] { savedGames_.save(); }},
         {"ProLoad", [this] { savedGames_.ProLoad(); }},
         {"Load", [this] { savedGames_.Load(); }},
+        {"SoundClick", [this] { sound_.SoundClick(); }},
+        {"SoundAssasin5", [this] { sound_.SoundAssasin5(); }},
+        {"SoundCroud", [this] { sound_.SoundCroud(); }},
+        {"SoundHeliNo", [this] { sound_.SoundHeliNo(); }},
+        {"SoundHeliOK", [this] { sound_.SoundHeliOK(); }},
+        {"SoundTwister", [this] { sound_.SoundTwister(); }},
+        {"SoundQuake", [this] { sound_.SoundQuake(); }},
+        {"SoundRev", [this] { sound_.SoundRev(); }},
     };
 }
 

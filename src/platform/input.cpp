@@ -107,13 +107,15 @@ void Input::HandleKey(const SDL_KeyboardEvent& event)
         }
         return;
     }
-    const ui::Modifiers modifiers{.shift = Holds(pressed, KMOD_SHIFT), .control = Holds(pressed, KMOD_CTRL)};
+    const ui::Modifiers modifiers{.shift = Holds(pressed, KMOD_SHIFT),
+                                  .control = Holds(pressed, KMOD_CTRL),
+                                  .alt = Holds(pressed, KMOD_ALT)};
     if (pressed.sym == SDLK_INSERT && modifiers.shift) {
-        desktop_.Press(Key::Paste);
+        hands_.Press(Key::Paste);
     } else if (pressed.sym == SDLK_DELETE && modifiers.shift) {
-        desktop_.Press(Key::Cut);
+        hands_.Press(Key::Cut);
     } else if (const std::optional<Key> key = Find(event, typing_)) {
-        desktop_.Press(*key, modifiers);
+        hands_.Press(*key, modifiers);
     }
 }
 
@@ -137,13 +139,13 @@ void Input::HandleButton(const SDL_MouseButtonEvent& event)
     }
     if (event.state == SDL_RELEASED) {
         if (pressed_) {
-            desktop_.PointerUp(at);
+            hands_.PointerUp(at);
         }
         pressed_ = false;
     } else if (view.Contains(event.x, event.y)) {
         pressed_ = true;
         desktop_.PointerMove(at, caretAt_);  // a touch comes without having moved there
-        desktop_.PointerDown(at, event.clicks, (SDL_GetModState() & KMOD_SHIFT) != 0, caretAt_);
+        hands_.PointerDown(at, event.clicks, (SDL_GetModState() & KMOD_SHIFT) != 0, caretAt_);
     }
 }
 
@@ -161,13 +163,13 @@ void Input::Handle(const SDL_Event& event)
         HandleKey(event.key);
         break;
     case SDL_TEXTINPUT:
-        desktop_.EnterText(event.text.text);
+        hands_.EnterText(event.text.text);
         break;
     case SDL_TEXTEDITING:
-        desktop_.Compose(event.edit.text);
+        hands_.Compose(event.edit.text);
         break;
     case SDL_TEXTEDITING_EXT:
-        desktop_.Compose(event.editExt.text);
+        hands_.Compose(event.editExt.text);
         SDL_free(event.editExt.text);
         break;
     case SDL_WINDOWEVENT:

@@ -4,6 +4,7 @@
 #include "platform/painter.h"
 #include "platform/window.h"
 #include "ui/toolkit/desktop.h"
+#include "ui/toolkit/hands.h"
 
 #include <SDL2/SDL_events.h>
 
@@ -23,6 +24,7 @@ private:
     void HandleButton(const SDL_MouseButtonEvent& event);
 
     ui::Desktop& desktop_;
+    ui::Hands hands_{desktop_};
     Painter& painter_;
     Window& window_;
     const ui::Desktop::CaretAt caretAt_;

@@ -192,6 +192,20 @@ TEST_F(Console, RefusesWithTheWrongWordAndChangesNothing)
     EXPECT_NE(Reply("drawn").at("drawn").at(0).at("r"), 0.5);
 }
 
+TEST_F(Console, CallsTheCuesByTheirNames)
+{
+    Do(StartLine());
+    Do("click frmlogo");
+    Do("click frmStart.Command1");
+    Reply("sounds");
+    for (const char* cue : {"Click", "Assasin5", "Croud", "HeliNo", "HeliOK", "Twister", "Quake", "Rev"}) {
+        Do(std::string("call Sound") + cue);
+    }
+    Expect("sounds", R"({"ok":true,"sounds":["sound/click.wav","sound/Assasin5.wav","sound/croud.wav",)"
+                     R"("sound/heliNo.wav","sound/heliOK.wav","sound/twister.wav","sound/quake.wav",)"
+                     R"("sound/rev.wav"]})");
+}
+
 TEST_F(Console, WantsStartFirst)
 {
     for (const char* line : {"screen", "click frmlogo", "state", "wait 1", "seed 1"}) {

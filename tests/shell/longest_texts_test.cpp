@@ -38,9 +38,9 @@ protected:
 TEST_F(LongestTexts, FitTheHallOfFameAndTheOptions)
 {
     const std::string names[] = {
-        std::string(500, 'W'),
-        std::string(500, 'm'),
-        std::string(500, 'G'),
+        std::string(ui::kNameLength, 'W'),
+        std::string(ui::kNameLength, 'm'),
+        std::string(ui::kNameLength, 'G'),
         "Generalissimo Ignacio Maria de los Remedios y Perpetuo y Todos los Santos de la Isla",
         "大統領大統領大統領大統領大統領大統領大統領大統領大統領大統領大統領大統領大統領大統領",
     };

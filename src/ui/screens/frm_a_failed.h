@@ -20,7 +20,7 @@ inline constexpr std::array<ui::ElementRow, 2> kPlottersRows{{
 
 struct FrmAFailed : ui::Form {
     explicit FrmAFailed(ui::Stage& stage)
-        : Form(stage, {.name = "frmAFailed", .rect = kPlottersSheet, .decor = kPlottersDecor})
+        : Form(stage, {.name = "frmAFailed", .rect = kPlottersSheet, .decor = kPlottersDecor, .asks = true})
     {}
 
     ui::ControlArray<ui::Label> lblPER{*this, "lblPER", kPlottersRows};

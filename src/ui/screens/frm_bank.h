@@ -27,7 +27,7 @@ struct FrmBank : ui::Form {
     ui::Label Label3{*this, "Label3", {180, 234, 240, 28}, "Your Swiss bank account holds:", look::kCaption};
     ui::Label Label2{*this, "Label2", {425, 234, 190, 28}, "0", look::kTotal};
     ui::Label Label1{*this, "Label1", {180, 294, 220, 28}, "Amount to transfer:", look::kCaption};
-    ui::TextBox Text1{*this, "Text1", {415, 290, 200, 38}, "0", look::kTyped};
+    ui::TextBox Text1{*this, "Text1", {415, 290, 200, 38}, "0", look::kTyped, {.longest = ui::kAmountLength}};
     ui::CommandButton Command3{*this, "Command3", {415, 374, 200, 42}, "Proceed", look::kButton};
 };
 

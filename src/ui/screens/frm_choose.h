@@ -35,7 +35,7 @@ inline constexpr std::array kChooseRows = ChooseRows();
 
 struct FrmChoose : ui::Form {
     explicit FrmChoose(ui::Stage& stage)
-        : Form(stage, {.name = "frmChoose", .rect = kChooseSheet, .decor = kChooseDecor})
+        : Form(stage, {.name = "frmChoose", .rect = kChooseSheet, .decor = kChooseDecor, .asks = true})
     {}
 
     ui::Label Label1{*this, "Label1", kChooseText, "", look::kMessage};

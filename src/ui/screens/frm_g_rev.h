@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmGRev : ui::Form {
     explicit FrmGRev(ui::Stage& stage)
-        : Form(stage, {.name = "frmGRev", .rect = kPosterSheet, .decor = kPosterDecor})
+        : Form(stage, {.name = "frmGRev", .rect = kPosterSheet, .decor = kPosterDecor, .asks = true})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

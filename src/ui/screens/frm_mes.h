@@ -16,7 +16,7 @@ inline constexpr std::array kAttemptDecor{
 
 struct FrmMes : ui::Form {
     explicit FrmMes(ui::Stage& stage)
-        : Form(stage, {.name = "frmMes", .rect = kAttemptSheet, .decor = kAttemptDecor})
+        : Form(stage, {.name = "frmMes", .rect = kAttemptSheet, .decor = kAttemptDecor, .asks = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmMes1 : ui::Form {
     explicit FrmMes1(ui::Stage& stage)
-        : Form(stage, {.name = "frmMes1", .rect = kMessageSheet, .decor = kMessageDecor})
+        : Form(stage, {.name = "frmMes1", .rect = kMessageSheet, .decor = kMessageDecor, .asks = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -13,7 +13,7 @@ inline constexpr std::array kOfferDecor{
 
 struct FrmMes2 : ui::Form {
     explicit FrmMes2(ui::Stage& stage)
-        : Form(stage, {.name = "frmMes2", .rect = kOfferSheet, .decor = kOfferDecor})
+        : Form(stage, {.name = "frmMes2", .rect = kOfferSheet, .decor = kOfferDecor, .asks = true})
     {
         cancelButton = &Command1;
     }

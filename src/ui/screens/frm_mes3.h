@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmMes3 : ui::Form {
     explicit FrmMes3(ui::Stage& stage)
-        : Form(stage, {.name = "frmMes3", .rect = kMessageSheet, .decor = kMessageDecor})
+        : Form(stage, {.name = "frmMes3", .rect = kMessageSheet, .decor = kMessageDecor, .asks = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

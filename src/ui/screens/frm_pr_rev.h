@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmPrRev : ui::Form {
     explicit FrmPrRev(ui::Stage& stage)
-        : Form(stage, {.name = "frmPrRev", .rect = kPosterSheet, .decor = kPosterDecor})
+        : Form(stage, {.name = "frmPrRev", .rect = kPosterSheet, .decor = kPosterDecor, .asks = true})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

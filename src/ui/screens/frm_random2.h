@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmRandom2 : ui::Form {
     explicit FrmRandom2(ui::Stage& stage)
-        : Form(stage, {.name = "frmRandom2", .rect = kMessageSheet, .decor = kMessageDecor})
+        : Form(stage, {.name = "frmRandom2", .rect = kMessageSheet, .decor = kMessageDecor, .asks = true})
     {}
 
     ui::Label Label1{*this, "Label1", kMessageText, "", look::kMessageBox};

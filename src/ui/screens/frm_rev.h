@@ -7,7 +7,7 @@ namespace screens {
 
 struct FrmRev : ui::Form {
     explicit FrmRev(ui::Stage& stage)
-        : Form(stage, {.name = "frmRev", .rect = kPosterSheet, .decor = kPosterDecor})
+        : Form(stage, {.name = "frmRev", .rect = kPosterSheet, .decor = kPosterDecor, .asks = true})
     {}
 
     ui::Picture Image1{*this, "Image1", kPosterPicture, "Revolution", look::kPicture,

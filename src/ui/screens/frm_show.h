@@ -10,7 +10,7 @@ inline constexpr std::array kShowDecor = CardDecor(kShowPlan, "TO BE SIGNED");
 
 struct FrmShow : CardForm {
     explicit FrmShow(ui::Stage& stage)
-        : CardForm(stage, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor}, kShowPlan)
+        : CardForm(stage, {.name = "frmShow", .rect = kCardSheet, .decor = kShowDecor, .asks = true}, kShowPlan)
     {
         initialFocus = &Command1;
         cancelButton = &Command1;

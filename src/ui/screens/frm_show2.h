@@ -10,7 +10,7 @@ inline constexpr std::array kShow2Decor = CardDecor(kShow2Plan, "RECEIVED");
 
 struct FrmShow2 : CardForm {
     explicit FrmShow2(ui::Stage& stage)
-        : CardForm(stage, {.name = "frmShow2", .rect = kCardSheet, .decor = kShow2Decor}, kShow2Plan)
+        : CardForm(stage, {.name = "frmShow2", .rect = kCardSheet, .decor = kShow2Decor, .asks = true}, kShow2Plan)
     {}
 
     ui::Label Label8{*this, "Label8", kCardTitle, "A request from the", look::kBandTitle};

@@ -16,7 +16,7 @@ inline constexpr std::array kUsaDecor{
 
 struct FrmUSA : ui::Form {
     explicit FrmUSA(ui::Stage& stage)
-        : Form(stage, {.name = "frmUSA", .rect = kUsaSheet, .decor = kUsaDecor})
+        : Form(stage, {.name = "frmUSA", .rect = kUsaSheet, .decor = kUsaDecor, .asks = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -25,7 +25,7 @@ struct SlotForm : ui::Form {
     };
 
     SlotForm(ui::Stage& stage, const Texts& texts)
-        : Form(stage, {.name = texts.name, .rect = kSlotSheet, .decor = kSlotDecor}), texts_(texts)
+        : Form(stage, {.name = texts.name, .rect = kSlotSheet, .decor = kSlotDecor, .asks = true}), texts_(texts)
     {
         cancelButton = &Command2;
     }

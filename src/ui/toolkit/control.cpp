@@ -119,7 +119,7 @@ void Control::Reset()
 
 TextBox::TextBox(Holder& holder, std::string_view name, const Rect& rect, std::string_view text,
                  const TextStyle& style, const Extras& extras)
-    : Control(holder, Kind::TextBox, name, rect, text, style, extras)
+    : Control(holder, Kind::TextBox, name, rect, text, style, extras), edit_(extras.longest)
 {
     edit_.SetText(text);
 }

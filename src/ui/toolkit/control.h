@@ -34,9 +34,10 @@ struct Extras {
     std::optional<Color> fore{};  // else the style's
     std::optional<Color> back{};  // given: the ground is opaque
     Mark mark = Mark::None;
-    std::string_view picture{};  // a file below the program folder
-    Rect row{};                  // with Ornament::Row: what lights up
-    std::int64_t twips = 0;      // a bar's length in twips; 0 for all that is no bar
+    std::string_view picture{};         // a file below the program folder
+    Rect row{};                         // with Ornament::Row: what lights up
+    std::int64_t twips = 0;             // a bar's length in twips; 0 for all that is no bar
+    std::size_t longest = kNameLength;  // of a text box: characters
 };
 
 class Control {

@@ -52,6 +52,7 @@ enum class Key : std::uint8_t {
 struct Modifiers {
     bool shift = false;
     bool control = false;
+    bool alt = false;
 };
 
 // Why the player cannot do that now; none when it was done.
@@ -67,8 +68,10 @@ public:
     const std::vector<Form*>& Forms() const { return forms_; }  // all that exist
     const std::vector<Form*>& Shown() const { return shown_; }  // back to front
     Form* FindForm(std::string_view name) const;
-    Control* FindControl(std::string_view name) const;  // "frmMain.Label5(4)"; null when there is none
-    Form* ModalForm() const;                            // the front modal one, or null
+    Control* FindControl(std::string_view name) const;      // "frmMain.Label5(4)"; null when there is none
+    Form* ModalForm() const;                                // the front modal one, or null
+    Form* FormAt(Point at) const;                           // the front one there, or null
+    static Control* ControlAt(const Form& form, Point at);  // that does something there, enabled or not
 
     // What a player does, by name. The rules are those of the pointer: the screen must be shown and
     // enabled, no other screen modal, the control visible and enabled.
@@ -127,8 +130,6 @@ private:
     Refusal Refused(const Form& form) const;
     Refusal Refused(const Control& control) const;
     bool TakesInput(const Form& form) const;
-    Form* FormAt(Point at) const;
-    static Control* ControlAt(const Form& form, Point at);
     Form* FrontForm() const;
     void Run(Control& control);
     void SetHovered(Control* control);

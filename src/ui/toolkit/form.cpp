@@ -77,6 +77,7 @@ void Form::Present(bool modal)
     Load();
     modal_ = modal;
     visible_ = true;
+    ++showings_;
     stage_.BringToFront(*this);
     stage_.MarkDirty(kSpace);  // a screen that comes or goes may change what others show
 }

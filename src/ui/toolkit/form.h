@@ -30,6 +30,7 @@ public:
         Color back{};           // the ground of a form without a sheet
         bool opaque = false;    // whether that ground is painted
         bool backdrop = false;  // always behind all other screens
+        bool asks = false;      // waits for an answer: a digit that was meant otherwise must not send it away
     };
 
     Form(Stage& stage, const Design& design);
@@ -52,6 +53,7 @@ public:
     bool Visible() const { return visible_; }
     bool Enabled() const { return enabled_; }
     bool Modal() const { return modal_; }
+    unsigned Showings() const { return showings_; }  // how often it has been shown
     void SetEnabled(bool enabled);
 
     void Load();
@@ -89,6 +91,7 @@ private:
     bool visible_ = false;
     bool enabled_ = true;
     bool modal_ = false;
+    unsigned showings_ = 0;
     std::function<void()> afterwards_;
 };
 

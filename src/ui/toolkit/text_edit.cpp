@@ -58,6 +58,50 @@ std::string OneLine(std::string_view text)
     return line;
 }
 
+// The border behind the character that begins at an offset.
+std::size_t Border(const std::string& text, std::size_t offset)
+{
+    if (offset >= text.size()) {
+        return text.size();
+    }
+    auto it = text.begin() + static_cast<std::ptrdiff_t>(offset);
+    char32_t last = utf8::unchecked::next(it);
+    if (IsFlagLetter(last) && it != text.end() &&
+        IsFlagLetter(At(text, static_cast<std::size_t>(it - text.begin())))) {
+        last = utf8::unchecked::next(it);
+    }
+    while (it != text.end()) {
+        const char32_t c = At(text, static_cast<std::size_t>(it - text.begin()));
+        const bool joined = last == 0x200D;  // what follows a joiner belongs to the same sign
+        if (!Joins(c) && !joined) {
+            break;
+        }
+        last = utf8::unchecked::next(it);
+    }
+    return static_cast<std::size_t>(it - text.begin());
+}
+
+std::size_t Length(std::string_view text)
+{
+    return static_cast<std::size_t>(utf8::unchecked::distance(text.begin(), text.end()));
+}
+
+// As many of a line's first characters as there is room for.
+std::string Shortened(const std::string& line, std::size_t room)
+{
+    std::size_t end = 0;
+    std::size_t used = 0;
+    while (end < line.size()) {
+        const std::size_t next = Border(line, end);
+        used += Length(std::string_view(line).substr(end, next - end));
+        if (used > room) {
+            break;
+        }
+        end = next;
+    }
+    return line.substr(0, end);
+}
+
 }  // namespace
 
 std::string TextEdit::Selected() const
@@ -72,16 +116,17 @@ void TextEdit::SetComposition(std::string_view text)
 
 void TextEdit::SetText(std::string_view text)
 {
-    text_ = OneLine(text);
+    text_ = Shortened(OneLine(text), longest_);
     composition_.clear();
     caret_ = anchor_ = text_.size();
 }
 
 void TextEdit::Insert(std::string_view text)
 {
-    const std::string line = OneLine(text);
     const std::size_t start = SelectionStart();
-    text_.replace(start, SelectionEnd() - start, line);
+    text_.erase(start, SelectionEnd() - start);
+    const std::string line = Shortened(OneLine(text), longest_ - Length(text_));
+    text_.insert(start, line);
     composition_.clear();
     PlaceCaret(start + line.size(), false);  // what was inserted may have joined what follows
 }
@@ -100,24 +145,7 @@ void TextEdit::Erase(bool forward, bool word)
 
 std::size_t TextEdit::Next(std::size_t offset) const
 {
-    if (offset >= text_.size()) {
-        return text_.size();
-    }
-    auto it = text_.begin() + static_cast<std::ptrdiff_t>(offset);
-    char32_t last = utf8::unchecked::next(it);
-    if (IsFlagLetter(last) && it != text_.end() &&
-        IsFlagLetter(At(text_, static_cast<std::size_t>(it - text_.begin())))) {
-        last = utf8::unchecked::next(it);
-    }
-    while (it != text_.end()) {
-        const char32_t c = At(text_, static_cast<std::size_t>(it - text_.begin()));
-        const bool joined = last == 0x200D;  // what follows a joiner belongs to the same sign
-        if (!Joins(c) && !joined) {
-            break;
-        }
-        last = utf8::unchecked::next(it);
-    }
-    return static_cast<std::size_t>(it - text_.begin());
+    return Border(text_, offset);
 }
 
 std::size_t TextEdit::Previous(std::size_t offset) const

@@ -2,7 +2,8 @@
 //
 // Positions are byte offsets into UTF-8 and always lie between whole characters as a reader sees them: a
 // letter and the accents that follow it are one step. What is inserted is made valid UTF-8, and control
-// characters (line ends, tabs) are left out, so a name is always one line.
+// characters (line ends, tabs) are left out, so a name is always one line. A text has at most so many characters
+// (Unicode's, so that a heap of accents counts too); what would be too much is left out at its end.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +12,15 @@
 
 namespace ui {
 
+// The longest texts that a player may type, in characters.
+inline constexpr std::size_t kNameLength = 200;
+inline constexpr std::size_t kAmountLength = 40;
+
 class TextEdit {
 public:
     enum class Move { Left, Right, WordLeft, WordRight, Home, End };
+
+    explicit TextEdit(std::size_t longest = kNameLength) : longest_(longest) {}
 
     const std::string& Text() const { return text_; }
     std::size_t Caret() const { return caret_; }
@@ -44,6 +51,7 @@ private:
     std::size_t WordEdge(std::size_t offset, bool forward) const;
     std::size_t Target(Move move) const;
 
+    std::size_t longest_;
     std::string text_;
     std::string composition_;
     std::size_t caret_ = 0;

@@ -57,12 +57,19 @@ struct Question : ui::Form {
     ui::CommandButton cancel{*this, "Command2", {300, 300, 100, 40}, "Cancel", kPlain};
 };
 
+struct Card : ui::Form {
+    explicit Card(ui::Stage& stage)
+        : Form(stage, {.name = "frmCard", .rect = {0, 500, 800, 100}, .asks = true})
+    {}
+};
+
 struct SmallScreens {
     ui::Desktop desktop;
     Backdrop back{desktop};
     Bar bar{desktop};
     Sheet sheet{desktop};
     Question ask{desktop};
+    Card card{desktop};
     std::vector<std::string> story;  // what the handlers wrote down
 
     std::function<void()> Tells(std::string what)

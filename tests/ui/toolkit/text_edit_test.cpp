@@ -89,6 +89,41 @@ TEST(TextEdit, TakesOneValidLine)
     }
 }
 
+TEST(TextEdit, TakesNoMoreThanItsLongestText)
+{
+    const std::string accents = "e" + [] {
+        std::string heap;
+        for (int i = 0; i < 300; ++i) {
+            heap += "\u0301";
+        }
+        return heap;
+    }();
+    const struct {
+        const char* why;
+        std::string before, inserted, after;
+    } cases[] = {
+        {"up to the end", "ab", "cde", "abcde"},
+        {"and no further", "ab", "cdefg", "abcde"},
+        {"counted in characters, not in bytes", "ñé", "ščř", "ñéščř"},
+        {"no letter loses its accent", "abcd", "e\u0301", "abcd"},
+        {"an accent counts", "abc", "e\u0301f", "abce\u0301"},
+        {"a letter under a heap of accents", "", accents, ""},
+        {"a pasted book", "", std::string(std::size_t{2} << 20, 'x'), "xxxxx"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        TextEdit edit(5);
+        edit.SetText(c.before);
+        edit.Insert(c.inserted);
+        EXPECT_EQ(edit.Text(), c.after);
+        edit.SelectAll();
+        edit.Insert(c.before + c.inserted);
+        EXPECT_EQ(edit.Text(), c.after) << "what is replaced makes room";
+        edit.SetText(c.before + c.inserted);
+        EXPECT_EQ(edit.Text(), c.after);
+    }
+}
+
 TEST(TextEdit, ErasesWhatAReaderSeesAsOne)
 {
     const struct {

@@ -1,0 +1,99 @@
+#include "ui/toolkit/hands.h"
+
+#include <algorithm>
+
+namespace ui {
+
+namespace {
+
+constexpr std::int64_t kAfterTyping = 1000;  // ms: an amount that is typed again must not end the month
+
+bool IsDigit(Key key)
+{
+    return key >= Key::Digit1 && key <= Key::Digit6;
+}
+
+}  // namespace
+
+Hands::Seen Hands::Look(Point at) const
+{
+    Seen seen{.form = desktop_.FormAt(at)};
+    if (seen.form == nullptr) {
+        return seen;
+    }
+    seen.showings = seen.form->Showings();
+    for (const Control* control : seen.form->Controls()) {
+        if (control->Now().visible) {
+            seen.parts.push_back({control, control->Text()});
+        }
+    }
+    return seen;
+}
+
+bool Hands::WasThere(Point at) const
+{
+    const Form* form = desktop_.FormAt(at);
+    if (form == nullptr || form != seen_.form || form->Showings() != seen_.showings) {
+        return false;
+    }
+    const Control* control = Desktop::ControlAt(*form, at);
+    const auto asItWas = [control](const Seen::Part& part) {
+        return part.control == control &&
+               (control->GetKind() == Control::Kind::TextBox || part.caption == control->Text());
+    };
+    return control == nullptr || std::any_of(seen_.parts.begin(), seen_.parts.end(), asItWas);
+}
+
+// Asked before anything happens, since what happens may take the text box away.
+void Hands::NoteTyping()
+{
+    if (desktop_.FocusedTextBox() != nullptr) {
+        lastTyping_ = desktop_.Now();
+    }
+}
+
+bool Hands::CommandsMenu(Modifiers modifiers) const
+{
+    const std::vector<Form*>& shown = desktop_.Shown();
+    return !modifiers.control && !modifiers.alt && desktop_.Now() - lastTyping_ >= kAfterTyping &&
+           std::none_of(shown.begin(), shown.end(), [](const Form* form) { return form->GetDesign().asks; });
+}
+
+void Hands::Press(Key key, Modifiers modifiers)
+{
+    NoteTyping();
+    if (!IsDigit(key) || desktop_.FocusedTextBox() != nullptr || CommandsMenu(modifiers)) {
+        desktop_.Press(key, modifiers);
+    }
+}
+
+void Hands::EnterText(std::string_view text)
+{
+    NoteTyping();
+    desktop_.EnterText(text);
+}
+
+void Hands::Compose(std::string_view text)
+{
+    NoteTyping();
+    desktop_.Compose(text);
+}
+
+void Hands::PointerDown(Point at, int clicks, bool shift, const Desktop::CaretAt& caretAt)
+{
+    NoteTyping();
+    if (clicks <= 1) {
+        seen_ = Look(at);
+    } else if (!WasThere(at)) {
+        return;
+    }
+    desktop_.PointerDown(at, clicks, shift, caretAt);
+}
+
+void Hands::PointerUp(Point at)
+{
+    NoteTyping();
+    desktop_.PointerUp(at);
+}
+
+}  // namespace ui

@@ -1,0 +1,56 @@
+// The player's hands at the window, on their way to the desktop.
+//
+// The desktop takes every press at its word, as it must: whoever asks it by name means what he says. Hands mean
+// less than they do. They press twice where once was meant, and type on when the text box has gone. What no
+// player can have meant stops here, by rules that hold for every screen:
+//
+// - The second press of a double click answers nothing that was not there at the first: no other screen than the
+//   first did, and no button that has been given another caption.
+// - A digit is a command of the menu only by itself, a second after the last typing, and while nothing is asked.
+#pragma once
+
+#include "ui/toolkit/desktop.h"
+
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ui {
+
+class Hands {
+public:
+    explicit Hands(Desktop& desktop) : desktop_(desktop) {}
+
+    void Press(Key key, Modifiers modifiers = {});
+    void EnterText(std::string_view text);
+    void Compose(std::string_view text);
+
+    // `clicks` is 1 for the first press of a series, 2 for that which makes a double click, and so on.
+    void PointerDown(Point at, int clicks = 1, bool shift = false, const Desktop::CaretAt& caretAt = {});
+    void PointerUp(Point at);
+
+private:
+    // The screen under the first press of a series, as it was then.
+    struct Seen {
+        struct Part {
+            const Control* control;
+            std::string caption;
+        };
+        const Form* form = nullptr;
+        unsigned showings = 0;  // tells it from the same screen with a later question
+        std::vector<Part> parts{};
+    };
+
+    Seen Look(Point at) const;
+    bool WasThere(Point at) const;
+    void NoteTyping();
+    bool CommandsMenu(Modifiers modifiers) const;
+
+    Desktop& desktop_;
+    Seen seen_;
+    std::int64_t lastTyping_ = std::numeric_limits<std::int64_t>::min() / 2;
+};
+
+}  // namespace ui
