@@ -21,7 +21,7 @@ add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}
 
 # What the system offers against a fault that somebody turns into a weapon; tools/lint/binary looks whether it
 # is in the program. The sanitizers see more and do not go together with it.
-set(CMAKE_SKIP_RPATH ON)
+set(CMAKE_SKIP_BUILD_RPATH ON)
 if(NOT QUENVALE_SANITIZE AND NOT QUENVALE_COVERAGE)
     add_compile_options(-fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
     if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")

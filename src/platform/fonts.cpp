@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <iostream>
+#include <utility>
 
 namespace platform {
 
@@ -30,7 +31,7 @@ constexpr const char* kFallback = "truetype/dejavu/DejaVuSans.ttf";
 
 }  // namespace
 
-Fonts::Fonts()
+Fonts::Fonts(std::filesystem::path ownFolder) : ownFolder_(std::move(ownFolder))
 {
     TTF_Init();
 }
@@ -49,16 +50,28 @@ const FontSearch& Fonts::Search()
     return *search_;
 }
 
+// The file where its package puts it, else where a portable copy has it; empty when it is nowhere.
+std::string Fonts::Packaged(const char* file) const
+{
+    std::error_code ignored;
+    for (const std::filesystem::path& folder : {std::filesystem::path(kFontFolder), ownFolder_}) {
+        if (!folder.empty() && std::filesystem::exists(folder / file, ignored)) {
+            return folder / file;
+        }
+    }
+    return {};
+}
+
 // The place in the package if it is there: to ask fontconfig costs a start several milliseconds.
 const std::string& Fonts::FileOf(ui::Face face)
 {
     auto [it, isNew] = files_.try_emplace(face);
     if (isNew) {
         const FaceFile& known = kFaceFiles[static_cast<std::size_t>(face)];
-        const std::string packaged = std::string(kFontFolder) + known.file;
-        std::error_code ignored;
-        it->second =
-            std::filesystem::exists(packaged, ignored) ? packaged : Search().File(known.family, known.style);
+        it->second = Packaged(known.file);
+        if (it->second.empty()) {
+            it->second = Search().File(known.family, known.style);
+        }
     }
     return it->second;
 }
@@ -104,7 +117,7 @@ TTF_Font* Fonts::OpenFor(char32_t character, const FontSize& size)
     if (own == nullptr || TTF_GlyphIsProvided32(own, character) != 0) {
         return own;
     }
-    TTF_Font* other = OpenFile(std::string(kFontFolder) + kFallback, size);
+    TTF_Font* other = OpenFile(Packaged(kFallback), size);
     if (other == nullptr || TTF_GlyphIsProvided32(other, character) == 0) {
         other = OpenFile(FileFor(character), size);
     }

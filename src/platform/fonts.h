@@ -2,8 +2,9 @@
 //
 //     TTF_Font* font = fonts.Open({ui::Face::Caption, 16, 72, 72});
 //
-// A face is taken from its Debian package's place; when it is not there, fontconfig is asked for the family
-// and gives what comes nearest. Characters that a face lacks come from DejaVu Sans or from whatever font
+// A face is taken from its Debian package's place; when it is not there, from the same place below a folder of
+// the game's own, which a portable copy brings along; when it is not there either, fontconfig is asked for the
+// family and gives what comes nearest. Characters that a face lacks come from DejaVu Sans or from whatever font
 // fontconfig knows to have them. Nothing is opened, and fontconfig is not even started, before it is needed.
 #pragma once
 
@@ -12,6 +13,7 @@
 
 #include <SDL2/SDL_ttf.h>
 
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <optional>
@@ -32,7 +34,7 @@ struct FontSize {
 
 class Fonts {
 public:
-    Fonts();
+    explicit Fonts(std::filesystem::path ownFolder = {});
     ~Fonts();
     Fonts(const Fonts&) = delete;
     Fonts& operator=(const Fonts&) = delete;
@@ -52,10 +54,12 @@ private:
     using Key = std::tuple<std::string, int, unsigned, unsigned>;
 
     TTF_Font* OpenFile(const std::string& file, const FontSize& size);
+    std::string Packaged(const char* file) const;
     const FontSearch& Search();
     const std::string& FileOf(ui::Face face);
     const std::string& FileFor(char32_t character);
 
+    std::filesystem::path ownFolder_;
     std::optional<FontSearch> search_;
     std::map<ui::Face, std::string> files_;
     std::map<char32_t, std::string> filesFor_;

@@ -11,6 +11,7 @@
 #include "platform/fonts.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <list>
 #include <string>
 #include <string_view>
@@ -30,6 +31,9 @@ struct Type {
 class Letters {
 public:
     static constexpr std::size_t kKeptBytes = std::size_t{512} * 1024;
+
+    // A portable copy of the game has its typefaces in a folder of its own.
+    explicit Letters(std::filesystem::path ownFonts = {}) : fonts_(std::move(ownFonts)) {}
 
     double Width(std::string_view text, const Type& type);
     const Mask& Render(std::string_view text, const Type& type);
