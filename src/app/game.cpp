@@ -1,5 +1,6 @@
 #include "app/game.h"
 
+#include "app/spoken_strip.h"
 #include "core/banner.h"
 #include "core/society.h"
 
@@ -85,10 +86,16 @@ void Game::WireEvents()
     civilWar_.newArmyChief = newArmyChief;
 }
 
-// F1 opens the manual; the digits are the menu's commands.
+// F1 opens the manual; the digits are the menu's commands; the others are for the voice.
 void Game::WireKeys()
 {
+    narrator_.strip = [this] {
+        return screens_.frmMain.Loaded() ? SpokenStrip(state_) : std::vector<std::string>();
+    };
     desktop_.onKey = [this](ui::Key key) {
+        if (narrator_.Press(key)) {
+            return true;
+        }
         if (key == ui::Key::F1) {
             manual_.Open();
             return true;

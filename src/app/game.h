@@ -46,6 +46,7 @@
 #include "threats/rebellion.h"
 #include "threats/revolts.h"
 #include "threats/war_outcome.h"
+#include "ui/reading/narrator.h"
 #include "ui/screens/screens.h"
 #include "ui/toolkit/desktop.h"
 
@@ -71,6 +72,8 @@ public:
     core::Chance& GetChance() { return chance_; }
     core::Journal& GetJournal() { return journal_; }
     const files::ProgramFolder& Folder() const { return folder_; }
+    // Silent until it is switched on and given a voice.
+    reading::Narrator& GetNarrator() { return narrator_; }
 
     // The routine of that name ("FixNum", "Timer4_Timer"), or null.
     const std::function<void()>* FindRoutine(std::string_view name) const;
@@ -93,6 +96,7 @@ private:
     core::Journal journal_{state_};
     ui::Desktop desktop_;
     screens::Screens screens_{desktop_};
+    reading::Narrator narrator_{desktop_};
     media::Sound sound_{host_};
 
     // The month.

@@ -3,7 +3,7 @@
 #include "console/listing.h"
 #include "console/shot.h"
 #include "core/fields.h"
-#include "ui/reading/reading.h"
+#include "ui/reading/narrator.h"
 
 #include <algorithm>
 #include <array>
@@ -61,6 +61,7 @@ Session::Run::Run(files::ProgramFolder folder) : game(host, std::move(folder), c
 {
     game.GetChance().onDraw = [this](const core::Chance::Drawn& draw) { drawn.push_back(draw); };
     game.GetJournal().Listen([this](const core::Note& note) { notes.push_back(note); });
+    game.GetNarrator().SetVoice(&voice);
     game.Start();
 }
 
@@ -78,12 +79,14 @@ std::span<const Session::Request> Session::Requests()
         Request{"wait", When::WhileRunning, &Session::Wait},
         Request{"call", When::WhileRunning, &Session::Call},
         Request{"set", When::WhileRunning, &Session::Set},
+        Request{"narration", When::WhileRunning, &Session::Narration},
         Request{"seed", When::WhileRunning, &Session::Seed},
         Request{"draws", When::WhileRunning, &Session::Draws},
         Request{"screen", When::Started, &Session::Screen},
         Request{"text", When::Started, &Session::Text},
         Request{"banner", When::Started, &Session::Banner},
         Request{"sounds", When::Started, &Session::Sounds},
+        Request{"spoken", When::Started, &Session::Spoken},
         Request{"read", When::Started, &Session::Read},
         Request{"timers", When::Started, &Session::Timers},
         Request{"program", When::Started, &Session::Program},
@@ -209,10 +212,17 @@ void Session::Key(Words& words, Json& /*reply*/)
     words.End();
     const auto key =
         std::find_if(kKeys.begin(), kKeys.end(), [&name](const NamedKey& k) { return k.name == name; });
-    if (key == kKeys.end()) {
+    if (key != kKeys.end()) {
+        Desktop().Press(key->key);
+        return;
+    }
+    const std::span<const reading::Narrator::Command> ear = reading::Narrator::Commands();
+    const auto heard =
+        std::find_if(ear.begin(), ear.end(), [&name](const auto& each) { return each.name == name; });
+    if (heard == ear.end()) {
         throw Refused("there is no key " + name);
     }
-    Desktop().Press(key->key);
+    Desktop().Press(heard->key);
 }
 
 void Session::Wait(Words& words, Json& /*reply*/)
@@ -250,6 +260,16 @@ void Session::Set(Words& words, Json& /*reply*/)
         throw Refused(element.Name() + ": expected " + *expected + ", found " +
                       (std::holds_alternative<std::string>(value) ? Printed(ValueOf(value)) : word));
     }
+}
+
+void Session::Narration(Words& words, Json& /*reply*/)
+{
+    const std::string state = words.Name("on or off");
+    words.End();
+    if (state != "on" && state != "off") {
+        throw Refused("narration is on or off, not " + state);
+    }
+    run_->game.GetNarrator().Switch(state == "on");
 }
 
 void Session::Seed(Words& words, Json& /*reply*/)
@@ -303,6 +323,12 @@ void Session::Sounds(Words& words, Json& reply)
 {
     words.End();
     reply["sounds"] = std::exchange(run_->host.sounds, {});
+}
+
+void Session::Spoken(Words& words, Json& reply)
+{
+    words.End();
+    reply["spoken"] = std::exchange(run_->voice.spoken, {});
 }
 
 void Session::Read(Words& words, Json& reply)

@@ -9,6 +9,7 @@
 #pragma once
 
 #include "app/game.h"
+#include "console/heard.h"
 #include "console/reply.h"
 #include "console/words.h"
 #include "media/recording_host.h"
@@ -33,6 +34,7 @@ private:
         explicit Run(files::ProgramFolder folder);
 
         media::RecordingHost host;
+        Heard voice;
         Game game;
         std::vector<core::Chance::Drawn> drawn;
         std::vector<core::Note> notes;
@@ -66,6 +68,7 @@ private:
     void Wait(Words& words, Json& reply);
     void Call(Words& words, Json& reply);
     void Set(Words& words, Json& reply);
+    void Narration(Words& words, Json& reply);
     void Seed(Words& words, Json& reply);
     void Draws(Words& words, Json& reply);
 
@@ -73,6 +76,7 @@ private:
     void Text(Words& words, Json& reply);
     void Banner(Words& words, Json& reply);
     void Sounds(Words& words, Json& reply);
+    void Spoken(Words& words, Json& reply);
     void Read(Words& words, Json& reply);
     void Timers(Words& words, Json& reply);
     void Program(Words& words, Json& reply);

@@ -61,7 +61,7 @@ constexpr Spoken kTable[] = {
 
     // The shell. -----------------------------------------------------------------------------------------------------
     {"frmStart.Label1",    "-"},
-    {"frmStart.Command2",  "{}. Press it for the next level"},
+    {"frmStart.Command2",  "{}, press for the next one"},
     {"frmNewspaper.Image1", "{}"},
     {"frmName.Text1",      "Your name: {}"},
     {"frmSave.Option1",    "Game slot 1"},

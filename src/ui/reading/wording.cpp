@@ -255,6 +255,12 @@ std::string Said(std::string_view printed, Sums sums)
     return Tidy(SaidNumbers(Calm(Tidy(text)), sums));
 }
 
+std::string WithGroups(std::int64_t amount)
+{
+    const std::string digits = std::to_string(amount);
+    return amount < 0 ? "-" + Grouped(std::string_view(digits).substr(1)) : Grouped(digits);
+}
+
 std::string SaidChange(std::string_view printed)
 {
     const std::string said = Said(printed);

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,9 @@ namespace reading {
 enum class Sums { Rounded, Exact };
 
 std::string Said(std::string_view printed, Sums sums = Sums::Rounded);
+
+// An amount as it would be printed, for those who want it said: "-15,630,952".
+std::string WithGroups(std::int64_t amount);
 
 // A change: "plus 5", "minus 3", "no change".
 std::string SaidChange(std::string_view printed);

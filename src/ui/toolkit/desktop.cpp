@@ -97,6 +97,14 @@ void Desktop::Dispatch(const std::function<void()>& event)
         event();
     }
     Settle();
+    Tell(cause_);
+}
+
+void Desktop::Tell(Cause cause) const
+{
+    if (onSettled && depth_ == 0) {
+        onSettled(cause);
+    }
 }
 
 void Desktop::Settle()
@@ -172,6 +180,7 @@ Refusal Desktop::Click(Control& control)
             SetFocus(&control);
         }
         Run(control);
+        Tell(Cause::Player);
     }
     return refusal;
 }
@@ -203,6 +212,7 @@ Refusal Desktop::Type(TextBox& box, std::string_view text)
     if (!refusal) {
         SetFocus(&box);
         box.Change([text](TextEdit& edit) { edit.SetText(text); });
+        Tell(Cause::Player);
     }
     return refusal;
 }
@@ -360,7 +370,9 @@ void Desktop::FireNext(std::int64_t until, bool& fired)
             if (timer->Armed() && timer->Due() == *due) {
                 now_ = std::max(now_, *due);
                 fired = true;
+                cause_ = Cause::Time;
                 Dispatch([timer] { timer->Fire(); });
+                cause_ = Cause::Player;
                 return;
             }
         }

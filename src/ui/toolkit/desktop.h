@@ -47,6 +47,21 @@ enum class Key : std::uint8_t {
     Copy,
     Cut,
     Paste,
+    // For the voice; no control wants them.
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    PageUp,
+    PageDown,
+    AltUp,
+    AltDown,
+    AltLeft,
+    AltRight,
 };
 
 struct Modifiers {
@@ -54,6 +69,9 @@ struct Modifiers {
     bool control = false;
     bool alt = false;
 };
+
+// Who brought something about: the player, or a timer. Key: what a pressed key did is told, and the key is done.
+enum class Cause : std::uint8_t { Player, Key, Time };
 
 // Why the player cannot do that now; none when it was done.
 using Refusal = std::optional<std::string>;
@@ -100,6 +118,8 @@ public:
 
     // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
     std::function<bool(Key)> onKey;
+    // After everything that happened, when all that it left to do is done: for who tells what is shown. Only reads.
+    std::function<void(Cause)> onSettled;
 
     // The clipboard of the system; without a front end texts are copied into an own one.
     std::function<std::string()> getClipboard;
@@ -125,6 +145,7 @@ private:
     void AfterEvent(std::function<void()> action) override { pending_.push_back(std::move(action)); }
 
     void Settle();
+    void Tell(Cause cause) const;
     void FireNext(std::int64_t until, bool& fired);
 
     Refusal Refused(const Form& form) const;
@@ -137,6 +158,7 @@ private:
     void SetKeyboardUsed(bool used);
 
     std::vector<Control*> TabRing() const;
+    void PressKey(Key key, Modifiers modifiers);
     void MoveFocus(bool forward);
     void MoveWithinForm(bool forward);
     bool PressInTextBox(TextBox& box, Key key, Modifiers modifiers);
@@ -148,6 +170,7 @@ private:
     std::vector<Form*> shown_;
     std::vector<std::function<void()>> pending_;
     int depth_ = 0;
+    Cause cause_ = Cause::Player;
     Control* focus_ = nullptr;
     Control* hovered_ = nullptr;
     Control* pressed_ = nullptr;

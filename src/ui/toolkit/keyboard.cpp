@@ -225,6 +225,12 @@ bool Desktop::PressOnForm(Key key)
 
 void Desktop::Press(Key key, Modifiers modifiers)
 {
+    PressKey(key, modifiers);
+    Tell(Cause::Key);
+}
+
+void Desktop::PressKey(Key key, Modifiers modifiers)
+{
     if (TextBox* box = FocusedTextBox(); box != nullptr && PressInTextBox(*box, key, modifiers)) {
         return;
     }
@@ -257,6 +263,7 @@ void Desktop::EnterText(std::string_view text)
 {
     if (TextBox* box = FocusedTextBox(); box != nullptr) {
         box->Change([text](TextEdit& edit) { edit.Insert(text); });
+        Tell(Cause::Player);
     }
 }
 
