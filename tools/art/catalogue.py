@@ -10,9 +10,11 @@ import country_map
 import farewell
 import menu
 import newspaper
+import office
 import officer
 import poster
 import scene_battles
+import scene_endings
 import scene_plots
 import scene_revolts
 from emblem import emblem_symbol
@@ -97,6 +99,26 @@ def _farewell():
                  colours=NEWSPRINT) for end, draw in pictures.items()]
 
 
+def _endings():
+    return [
+        Picture('civilwar-won', 'The civil war is won', 620, 250, scene_endings.civil_war_won, filters, palette=True),
+        Picture('execution', 'Execution', 620, 250, scene_endings.execution, filters, palette=True),
+        Picture('dead', 'Lying in state', 620, 250, scene_endings.dead, filters, palette=True),
+    ]
+
+
+def _office():
+    places = office.places()
+
+    def picture(name, draw, definitions, **more):
+        return Picture('office/' + name, 'Office: ' + name, *places[name][2:], draw, definitions, palette=True, **more)
+    return [picture('night', office.night, office.definitions), picture('revolt', office.revolt, office.definitions)] + \
+        [picture('%s-%s' % (hour, side), lambda draw=draw, side=side: draw(side), office.definitions)
+         for hour, draw in (('night', office.beyond), ('revolt', office.beyond_in_revolt)) for side in office.BEYOND] + \
+        [picture(name, lambda name=name: office.piece(name), lambda name=name: office.piece_definitions(name), alpha=True)
+         for name in office.PIECES]
+
+
 def _menu_keys():
     return [Picture('%d%s' % (index, letter), menu.KEYS[index][0], menu.WIDTH, menu.HEIGHT,
                     lambda index=index, hot=hot: menu.key(index, hot), menu.key_gradients)
@@ -114,4 +136,4 @@ def _marks():
 
 
 def pictures():
-    return _screens() + _scenes() + _newspapers() + _farewell() + _menu_keys() + _marks()
+    return _screens() + _scenes() + _newspapers() + _farewell() + _endings() + _office() + _menu_keys() + _marks()

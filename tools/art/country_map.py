@@ -140,17 +140,25 @@ def _button(fill):
     return layers(circle(17, 17, 16, INK), circle(17, 17, 14, fill))
 
 
+def anchor():
+    """28 x 28."""
+    return layers(stroke('M14,4 v20 M8,9 h12 M4,16 C4,23 9,25 14,25 C19,25 24,23 24,16', CREAM, 2.6,
+                         stroke_linecap='round'),
+                  ring(14, 4.5, 2.6, CREAM, 2))
+
+
+def plane_mark():
+    """34 x 34."""
+    return path('M17,4 C19,6 19,10 19,13 L30,19 L30,22 L19,19 L18.4,26 L22,29 L22,31 L17,29.6 L12,31 L12,29 '
+                'L15.6,26 L15,19 L4,22 L4,19 L15,13 C15,10 15,6 17,4 Z', CREAM)
+
+
 def naval_mark():
-    anchor = layers(stroke('M14,4 v20 M8,9 h12 M4,16 C4,23 9,25 14,25 C19,25 24,23 24,16', CREAM, 2.6,
-                           stroke_linecap='round'),
-                    ring(14, 4.5, 2.6, CREAM, 2))
-    return layers(_button('#2B4A86'), placed(3.6, 3.4, anchor, scale=.96))
+    return layers(_button('#2B4A86'), placed(3.6, 3.4, anchor(), scale=.96))
 
 
 def air_mark():
-    return layers(_button('#2B4A86'),
-                  path('M17,4 C19,6 19,10 19,13 L30,19 L30,22 L19,19 L18.4,26 L22,29 L22,31 L17,29.6 L12,31 L12,29 '
-                       'L15.6,26 L15,19 L4,22 L4,19 L15,13 C15,10 15,6 17,4 Z', CREAM))
+    return layers(_button('#2B4A86'), plane_mark())
 
 
 def guerrillas_mark():

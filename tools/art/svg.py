@@ -107,6 +107,11 @@ def ellipse(x, y, radius_x, radius_y, fill, **attrs):
         ' fill="%s"%s/>' % (fill, attributes(attrs))
 
 
+def rim(draw, fill, edge, shift):
+    """A silhouette with light on one side of it: the same, in the colour of the edge, a little off behind it."""
+    return layers(placed(*shift, draw(edge)), draw(fill))
+
+
 def use(symbol, x, y, size):
     return fmt('<use xlink:href="#%s" x="%s" y="%s" width="%s" height="%s"/>', symbol, x, y, size, size)
 
