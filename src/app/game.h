@@ -31,6 +31,7 @@
 #include "instruments/taxes.h"
 #include "media/cues.h"
 #include "media/host.h"
+#include "office/backdrop.h"
 #include "shell/army.h"
 #include "shell/display.h"
 #include "shell/hall.h"
@@ -137,6 +138,9 @@ private:
     instruments::PoliceReport police_{state_, screens_.frmPolice, screens_.frmMonthBanner, format_};
     instruments::Chiefs chiefs_{state_, newGame_, screens_, sound_};
     instruments::Coups coups_{state_, chance_, screens_.frmMes3, sound_};
+
+    // The office behind everything.
+    office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};
 
     std::map<std::string, std::function<void()>, std::less<>> routines_;
 };

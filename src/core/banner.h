@@ -13,10 +13,20 @@ inline void Say(screens::FrmMonthBanner& banner, std::string_view text, std::str
 {
     const bool pictured = !picture.empty();
     banner.Label1.SetText(text);
+    banner.Label1.SetFolded(false);
+    banner.SetShade(0);
     banner.Label1.SetRect(pictured ? screens::kBannerCaption : screens::kBannerText);
     banner.Image1.SetPicture(picture);
     banner.Image1.SetVisible(pictured);
     banner.Shape1.SetVisible(pictured);
+}
+
+// He lies in state, and the office is dark around him.
+inline void SayDead(screens::FrmMonthBanner& banner, std::string_view text)
+{
+    constexpr int kDark = 80;  // percent
+    Say(banner, text, "images/dead.png");
+    banner.SetShade(kDark);
 }
 
 inline void ClearBanner(screens::FrmMonthBanner& banner)

@@ -66,7 +66,7 @@ void MonthChain::Timer5_Timer()
 void MonthChain::Timer6_Timer()
 {
     main_.Timer6.SetInterval(0);
-    Say(banner_, " Y O U   A R E   D E A D ! ");
+    SayDead(banner_, " Y O U   A R E   D E A D ! ");
     state_.Dead = 1;
     main_.Show();
     main_.Timer4.SetInterval(kMourning);

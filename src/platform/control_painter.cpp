@@ -1,6 +1,7 @@
 #include "platform/control_painter.h"
 
 #include "platform/button_look.h"
+#include "platform/message_band.h"
 #include "platform/text_layout.h"
 #include "ui/look/look.h"
 
@@ -180,6 +181,9 @@ void PaintLabel(Brush& brush, const Control& control)
     case Ornament::Plate:
         PaintPlate(brush, control.Place());
         PaintText(brush, TextPlace(control), control.Text(), control.Style(), control.Now().fore);
+        return;
+    case Ornament::Message:
+        PaintMessage(brush, control);
         return;
     case Ornament::Box:
         PaintValueBox(brush, control.Place());

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "files/program_folder.h"
+#include "platform/backdrop.h"
 #include "platform/brush.h"
 #include "platform/text_box_view.h"
 #include "ui/toolkit/desktop.h"
@@ -32,11 +33,17 @@ public:
     bool Fits(const ui::Control& control);
 
 private:
+    bool FollowScene(const ui::Desktop& desktop, SDL_Surface& surface);
+    int Darkness(const ui::Desktop& desktop, const ui::Form& form);
+    void PaintBars(const ui::Desktop& desktop, SDL_Surface& surface);
+    void PaintScene(Brush& brush, const ui::Desktop& desktop, const ui::Form& form);
+    bool Covered(const ui::Desktop& desktop, const ui::Control& control);
     void PaintForm(Brush& brush, const ui::Desktop& desktop, const ui::Form& form);
     void DropUnseenPictures(const ui::Desktop& desktop);
 
     Letters letters_;
     Pictures pictures_;
+    Backdrop backdrop_;
     TextBoxView boxes_;
     Viewport viewport_;
 };

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kSmallPixels = 128 * 128;
 constexpr double kMostEnlarged = 1.25;
+// From here on four neighbours are all that a pixel is made of; a smaller picture would lose its dots.
+constexpr double kLeastForLinear = 0.75;
 
 // "images/title.bmp" is also there as "images/2x/title.png".
 std::filesystem::path DoubleOf(const std::filesystem::path& file)
@@ -27,7 +29,7 @@ PictureSurface Scaled(const SDL_Surface& picture, int width, int height)
     if (!scaled) {
         return nullptr;
     }
-    if (!seeThrough && width >= picture.w && height >= picture.h) {
+    if (!seeThrough && width >= kLeastForLinear * picture.w && height >= kLeastForLinear * picture.h) {
         auto& source = const_cast<SDL_Surface&>(picture);                // SDL only reads it
         SDL_SoftStretchLinear(&source, nullptr, scaled.get(), nullptr);  // several times faster
     } else {
@@ -63,20 +65,24 @@ void Pictures::Tell(const std::string& file, const std::string& reason)
     }
 }
 
-SDL_Surface* Pictures::Get(std::string_view file, int width, int height)
+PictureSurface Pictures::Load(std::string_view file, int width, int height)
 {
     const std::string name(file);
-    auto [it, isNew] = kept_.try_emplace({name, width, height});
-    if (!isNew || name.empty() || width <= 0 || height <= 0) {
-        return it->second.get();
-    }
     PictureSurface picture = Read(name, width);
     if (!picture) {
         Tell(name, SDL_GetError());
         return nullptr;
     }
     const bool fits = picture->w == width && picture->h == height;
-    it->second = fits ? std::move(picture) : Scaled(*picture, width, height);
+    return fits ? std::move(picture) : Scaled(*picture, width, height);
+}
+
+SDL_Surface* Pictures::Get(std::string_view file, int width, int height)
+{
+    auto [it, isNew] = kept_.try_emplace({std::string(file), width, height});
+    if (isNew && !file.empty() && width > 0 && height > 0) {
+        it->second = Load(file, width, height);
+    }
     return it->second.get();
 }
 

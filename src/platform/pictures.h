@@ -30,6 +30,8 @@ public:
 
     // Width and height in pixels of the surface. The result lives until KeepOnly drops it.
     SDL_Surface* Get(std::string_view file, int width, int height);
+    // The same for who keeps it himself; null when it is missing or broken.
+    PictureSurface Load(std::string_view file, int width, int height);
     void KeepOnly(const std::function<bool(const std::string& file)>& isShown);
     void Clear() { kept_.clear(); }
     std::size_t Kept() const { return kept_.size(); }

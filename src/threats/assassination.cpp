@@ -68,7 +68,7 @@ void Assassination::AfterTheWarning()
 void Assassination::AssasinTry()
 {
     if (AttemptKills(state_, chance_)) {
-        core::Say(screens_.frmMonthBanner, " Y O U    A R E   D E A D ! ");
+        core::SayDead(screens_.frmMonthBanner, " Y O U    A R E   D E A D ! ");
         state_.Dead = 1;
         screens_.frmMain.Timer4.SetInterval(kMourning);
         return;

@@ -18,6 +18,8 @@ constexpr std::int64_t kBeforeTheHall = 6000;
 constexpr std::string_view kLost =
     "Your army lost the battle! Revolutioneries found you hiding in the basement of your mansion. You were "
     "executed immediately!";
+constexpr std::string_view kLostPicture = "images/execution.png";
+constexpr std::string_view kWonPicture = "images/civilwar-won.png";
 constexpr std::string_view kWon = "You win! Revolutioneries' leaders were arrested and executed!";
 
 }  // namespace
@@ -212,14 +214,14 @@ void CivilWar::Fight()
 
 void CivilWar::Lose()
 {
-    core::Say(screens_.frmMonthBanner, kLost);
+    core::Say(screens_.frmMonthBanner, kLost, kLostPicture);
     state_.Dead = 1;
     screens_.frmMain.Timer4.SetInterval(kBeforeTheHall);
 }
 
 void CivilWar::Win()
 {
-    core::Say(screens_.frmMonthBanner, kWon);
+    core::Say(screens_.frmMonthBanner, kWon, kWonPicture);
     PunishRebels(state_, chance_);
     BuryGuards(state_, chance_);
     monthEnd_.EndOfTurn2();

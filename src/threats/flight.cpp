@@ -14,6 +14,7 @@ constexpr std::int64_t kBeforeTheHall = 6000;
 
 constexpr std::string_view kByHelicopter = "images/flight.bmp";
 constexpr std::string_view kOnFoot = "images/walk.bmp";
+constexpr std::string_view kAtTheWall = "images/execution.png";
 constexpr std::string_view kExecuted =
     "You were arrested and executed by the Revolutioners! The new goverment announced the day of your death "
     "national holiday!";
@@ -52,7 +53,11 @@ void Flight::From(ui::Form& dialog)
 void Flight::Timer2_Timer()
 {
     banner_.SetBack(look::kBlack);
-    core::Say(banner_, state_.Dead == 1 ? kExecuted : kEscaped);
+    if (state_.Dead == 1) {
+        core::Say(banner_, kExecuted, kAtTheWall);
+    } else {
+        core::Say(banner_, kEscaped);
+    }
     main_.Timer4.SetInterval(kBeforeTheHall);
     main_.Timer2.SetInterval(0);
 }

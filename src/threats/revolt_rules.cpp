@@ -29,12 +29,17 @@ constexpr std::array<std::int64_t, core::kTaxed> kUprising{8, 8, 5, 7, 7};
 constexpr std::int64_t kJoinersHatred = 5;
 constexpr std::int64_t kAlwaysCaught = 5;  // percent of those who rise, beside their strength
 
+bool Ready(const GameState& state, const Revolt& revolt)
+{
+    return state.Strength[revolt.rising] >= revolt.risesAt;
+}
+
 void GatherRebels(GameState& state, const Revolt& revolt)
 {
     const auto level =
         static_cast<std::size_t>(std::clamp<std::int64_t>(state.Difficulty, core::kEasy, core::kHard));
     const std::int64_t bonus = UnrestBonus(state);
-    if (state.Strength[revolt.rising] >= revolt.risesAt) {
+    if (Ready(state, revolt)) {
         state.RevolutionaryStrength =
             core::RoundHalfEven(Real(state.Strength[revolt.rising] + bonus) * kZeal[level]);
     }
@@ -77,6 +82,16 @@ std::int64_t Raise(GameState& state, const Revolt& revolt)
 }
 
 }  // namespace
+
+bool GuerrillasAreReady(const core::GameState& state)
+{
+    return Ready(state, kGuerrillas);
+}
+
+bool PrisonersAreReady(const core::GameState& state)
+{
+    return Ready(state, kPrisoners);
+}
 
 std::int64_t UnrestBonus(const GameState& state)
 {

@@ -10,6 +10,10 @@ namespace threats {
 // What the people's mood lends to those who rise: a fifth of their mean opposition in percent, half to even.
 std::int64_t UnrestBonus(const core::GameState& state);
 
+// Whether they are strong enough to rise: the guerrillas from strength 15 on, the prisoners from 12.
+bool GuerrillasAreReady(const core::GameState& state);
+bool PrisonersAreReady(const core::GameState& state);
+
 // Each changes the record as the revolt breaks out and returns the rebels' share of the country's strength
 // in whole percent, taken before anybody gains or loses.
 //

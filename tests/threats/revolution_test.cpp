@@ -167,7 +167,8 @@ TEST(Flight, DependsOnWingsGuardsAndTheDraw)
         EXPECT_EQ(game.BannerBack(), look::kRed);
         game.Wait(1);
         EXPECT_EQ(game.BannerBack(), look::kBlack);
-        EXPECT_FALSE(picture.Now().visible) << "it goes with the next message";
+        EXPECT_EQ(picture.Now().visible, !c.escapes) << "it goes with the next message";
+        EXPECT_EQ(picture.Now().picture, c.escapes ? "" : "images/execution.png");
         EXPECT_EQ(game.Banner(),
                   c.escapes
                       ? "Congratulations! You made it alive to the United States!"

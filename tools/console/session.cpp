@@ -380,9 +380,18 @@ void Session::Journal(Words& words, Json& reply)
 
 void Session::Shot(Words& words, Json& /*reply*/)
 {
+    constexpr std::int64_t kLargest = 4096;
     const std::string file = words.Text();
+    std::int64_t width = ui::kSpaceWidth;
+    std::int64_t height = ui::kSpaceHeight;
+    if (!words.AtEnd()) {
+        width = std::clamp<std::int64_t>(words.Count("a width"), 1, kLargest);
+        height = std::clamp<std::int64_t>(words.Count("a height"), 1, kLargest);
+    }
     words.End();
-    if (const auto problem = png::Write(file, Shoot(Desktop(), run_->game.Folder()))) {
+    const auto pixels =
+        Shoot(Desktop(), run_->game.Folder(), static_cast<int>(width), static_cast<int>(height));
+    if (const auto problem = png::Write(file, pixels)) {
         throw Refused(*problem);
     }
 }

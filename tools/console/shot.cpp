@@ -35,10 +35,10 @@ png::Picture ToPicture(const SDL_Surface& surface)
 
 }  // namespace
 
-png::Picture Shoot(const ui::Desktop& desktop, const files::ProgramFolder& folder)
+png::Picture Shoot(const ui::Desktop& desktop, const files::ProgramFolder& folder, int width, int height)
 {
     const std::unique_ptr<SDL_Surface, FreeSurface> surface(
-        SDL_CreateRGBSurfaceWithFormat(0, ui::kSpaceWidth, ui::kSpaceHeight, 32, SDL_PIXELFORMAT_RGB888));
+        SDL_CreateRGBSurfaceWithFormat(0, width, height, 32, SDL_PIXELFORMAT_RGB888));
     if (!surface) {
         throw std::runtime_error("there is no memory for a picture");
     }

@@ -1,4 +1,4 @@
-// Draws the screen as the window would show it at its own size, 800 x 600. It needs no display.
+// Draws the screen as a window of any size would show it. It needs no display.
 #pragma once
 
 #include "files/program_folder.h"
@@ -8,6 +8,7 @@
 namespace console {
 
 // Throws std::runtime_error when there is no memory for the picture.
-png::Picture Shoot(const ui::Desktop& desktop, const files::ProgramFolder& folder);
+png::Picture Shoot(const ui::Desktop& desktop, const files::ProgramFolder& folder,
+                   int width = ui::kSpaceWidth, int height = ui::kSpaceHeight);
 
 }  // namespace console

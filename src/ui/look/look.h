@@ -35,6 +35,7 @@ inline constexpr Color kHeading = Rgb(0x8E1B14);  // column headings on paper
 inline constexpr Color kNegative = Rgb(0xA31C12);
 inline constexpr Color kOchre = Rgb(0xE3A52F);
 inline constexpr Color kBrass = Rgb(0xB97A1C);
+inline constexpr Color kHalftone = Rgb(0x69480F);  // brass dots over the dark of a band
 inline constexpr Color kSun = Rgb(0xF2C14E);
 inline constexpr Color kSecret = Rgb(0x0B100E);
 inline constexpr Color kSecretHairline = Rgb(0x2C3B35);
@@ -90,7 +91,7 @@ inline constexpr TextStyle kMessageBox{
     .fore = kInk, .wrap = true, .balanced = true};
 inline constexpr TextStyle kBanner{
     .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{34, 46}, {28, 38}, {22, 30}}},
-    .fore = kWhite, .wrap = true, .balanced = true, .shadow = true};
+    .fore = kWhite, .ornament = Ornament::Message, .wrap = true, .balanced = true};
 
 inline constexpr TextStyle kValue{
     .face = Face::Typed, .align = Align::Right, .sizes = {{{17, 26}, {15, 22}, {13, 20}}}, .fore = kInk};

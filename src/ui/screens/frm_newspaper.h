@@ -10,7 +10,7 @@ inline constexpr ui::Rect kNewspaperPage{20, 58, 760, 532};
 
 struct FrmNewspaper : ui::Form {
     explicit FrmNewspaper(ui::Stage& stage)
-        : Form(stage, {.name = "frmNewspaper", .rect = kNewspaperPage, .back = look::kBlack, .opaque = true})
+        : Form(stage, {.name = "frmNewspaper", .rect = kNewspaperPage, .back = look::kBlack, .opaque = true, .dims = 45})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;

@@ -36,7 +36,9 @@ Control::Control(Holder& holder, Kind kind, std::string_view name, const Rect& r
 
 void Control::MarkDirty() const
 {
-    holder_.MarkDirty(Union(state_.rect, row_).Grown(kPaintMargin));
+    // A message's band and the dark around it reach across the screen.
+    const bool everywhere = style_->ornament == Ornament::Message;
+    holder_.MarkDirty(everywhere ? kSpace : Union(state_.rect, row_).Grown(kPaintMargin));
 }
 
 template <class T> void Control::Change(T& field, const T& value)
@@ -53,6 +55,7 @@ void Control::SetText(std::string_view text)
 {
     if (state_.text != text) {
         state_.text = text;
+        state_.folded = false;
         MarkDirty();
     }
 }
@@ -68,6 +71,11 @@ void Control::SetPicture(std::string_view file)
 void Control::SetRect(const Rect& rect)
 {
     Change(state_.rect, rect);
+}
+
+void Control::SetFolded(bool folded)
+{
+    Change(state_.folded, folded);
 }
 
 void Control::SetVisible(bool visible)

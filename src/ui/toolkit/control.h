@@ -56,6 +56,7 @@ public:
         bool enabled = true;
         bool chosen = false;  // option buttons
         bool tabStop = false;
+        bool folded = false;  // a message that has been read: one line under the menu
         Mark mark = Mark::None;
         std::int64_t twips = 0;  // 1/1440 inch: exact where the place is scaled to fit
     };
@@ -86,6 +87,7 @@ public:
     void SetChosen(bool chosen);
     void SetTabStop(bool tabStop);
     void SetMark(Mark mark);
+    void SetFolded(bool folded);
     void SetTwips(std::int64_t twips) { state_.twips = twips; }
 
     bool Focusable() const { return state_.tabStop && state_.visible && state_.enabled; }

@@ -162,9 +162,17 @@ void Desktop::Run(Control& control)
     }
 }
 
+void Desktop::NoteInput() const
+{
+    if (onInput) {
+        onInput();
+    }
+}
+
 Refusal Desktop::Click(Form& form)
 {
     Refusal refusal = Refused(form);
+    NoteInput();
     if (!refusal && form.onClick) {
         Dispatch(form.onClick);
     }
@@ -174,6 +182,7 @@ Refusal Desktop::Click(Form& form)
 Refusal Desktop::Click(Control& control)
 {
     Refusal refusal = Refused(control);
+    NoteInput();
     if (!refusal) {
         SetKeyboardUsed(false);
         if (control.Focusable()) {
@@ -297,6 +306,7 @@ void Desktop::PointerLeave()
 
 void Desktop::PointerDown(Point at, int clicks, bool shift, const CaretAt& caretAt)
 {
+    NoteInput();
     Form* form = FormAt(at);
     pressedForm_ = form != nullptr && TakesInput(*form) ? form : nullptr;
     Control* control = pressedForm_ == nullptr ? nullptr : ControlAt(*pressedForm_, at);

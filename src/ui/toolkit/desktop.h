@@ -116,6 +116,9 @@ public:
     const Control* Hovered() const { return hovered_; }
     const Control* Pressed() const { return pressed_; }
 
+    // Before each click and key of the player is looked at.
+    std::function<void()> onInput;
+
     // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
     std::function<bool(Key)> onKey;
     // After everything that happened, when all that it left to do is done: for who tells what is shown. Only reads.
@@ -153,6 +156,7 @@ private:
     bool TakesInput(const Form& form) const;
     Form* FrontForm() const;
     void Run(Control& control);
+    void NoteInput() const;
     void SetHovered(Control* control);
     void SetPressed(Control* control);
     void SetKeyboardUsed(bool used);

@@ -56,6 +56,14 @@ void Form::SetBack(Color color)
     }
 }
 
+void Form::SetShade(int percent)
+{
+    if (shade_ != percent) {
+        shade_ = percent;
+        MarkDirty();
+    }
+}
+
 void Form::SetEnabled(bool enabled)
 {
     enabled_ = enabled;
@@ -118,6 +126,7 @@ void Form::Unload()
     enabled_ = true;
     rect_ = design_.rect;
     back_ = design_.back;
+    shade_ = 0;
     for (Timer* timer : timers_) {
         timer->SetInterval(0);
     }

@@ -8,6 +8,7 @@
 
 #include "ui/toolkit/control.h"
 #include "ui/toolkit/holder.h"
+#include "ui/toolkit/scene.h"
 #include "ui/toolkit/stage.h"
 #include "ui/toolkit/timer.h"
 
@@ -31,6 +32,7 @@ public:
         bool opaque = false;    // whether that ground is painted
         bool backdrop = false;  // always behind all other screens
         bool asks = false;      // waits for an answer: a digit that was meant otherwise must not send it away
+        int dims = 0;           // by how many percent the scene behind it is darkened while it is shown
     };
 
     Form(Stage& stage, const Design& design);
@@ -48,6 +50,8 @@ public:
     void SetRect(const Rect& rect);
     Color Back() const { return back_; }
     void SetBack(Color color);
+    int Shade() const { return shade_; }  // by how many percent this screen's own scene is darkened
+    void SetShade(int percent);
 
     bool Loaded() const { return loaded_; }
     bool Visible() const { return visible_; }
@@ -64,6 +68,10 @@ public:
 
     std::function<void()> onLoad;
     std::function<void()> onClick;  // a click on no control, or on a control without a handler
+
+    // Painted over the ground, behind the controls. It is asked for whenever the screen is painted and never
+    // else, so that it costs nothing where nobody looks.
+    std::function<Scene()> scene;
 
     // Return presses the default button unless another control has the focus; Escape the cancelling one.
     Control* defaultButton = nullptr;
@@ -87,6 +95,7 @@ private:
     std::vector<Timer*> timers_;
     Rect rect_;
     Color back_;
+    int shade_ = 0;
     bool loaded_ = false;
     bool visible_ = false;
     bool enabled_ = true;

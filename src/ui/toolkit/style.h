@@ -33,6 +33,7 @@ enum class Ornament : std::uint8_t {
     RateButton,    // a small square button whose sign is drawn as bars
     DangerButton,  // a button whose deed cannot be undone
     YellowKey,     // a key of the options menu, inverted under the pointer
+    Message,       // a band across the whole screen, over its scene
     Row,           // a table row that lights up under the pointer or the focus
 };
 
