@@ -92,6 +92,10 @@ void Game::WireKeys()
     narrator_.strip = [this] {
         return screens_.frmMain.Loaded() ? SpokenStrip(state_) : std::vector<std::string>();
     };
+    narrator_.report = [this](std::string_view message) {
+        core::Say(screens_.frmMonthBanner, message);
+        screens_.frmStart.Label3.SetText(message);
+    };
     desktop_.onKey = [this](ui::Key key) {
         if (narrator_.Press(key)) {
             return true;

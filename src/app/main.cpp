@@ -14,5 +14,5 @@ int main()
     };
     Game game(host, files::ProgramFolder::Find(), core::Chance(timeOfDay));
     game.Start();
-    return platform::Run(game.GetDesktop(), host, game.Folder());
+    return platform::Run(game.GetDesktop(), game.GetNarrator(), host, game.Folder());
 }

@@ -14,6 +14,7 @@ namespace {
 constexpr int kRate = 22050;
 constexpr int kBytesASecond = kRate * 2;
 constexpr int kChannels = 1;
+constexpr int kDucked = MIX_MAX_VOLUME / 4;
 constexpr int kBuffer = 512;  // samples; 23 ms
 
 constexpr std::int64_t kStaysOpen = 4000;    // ms after a sound's end
@@ -38,6 +39,7 @@ bool Audio::OpenDevice(std::int64_t now)
         if (mixer->openAudioDevice(kRate, AUDIO_S16SYS, kChannels, kBuffer, nullptr, 0) == 0) {
             mixer_ = mixer;
             mixer_->allocateChannels(1);
+            mixer_->volume(-1, ducked_ ? kDucked : MIX_MAX_VOLUME);
         } else {
             SDL_QuitSubSystem(SDL_INIT_AUDIO);
         }
@@ -71,6 +73,13 @@ Mix_Chunk* Audio::Load(const std::string& file)
     Chunk& home = chunk->alen <= kShort ? kept_[file] : current_;
     home = std::move(chunk);
     return home.get();
+}
+
+void Audio::Duck(bool duck)
+{
+    if (std::exchange(ducked_, duck) != duck && mixer_ != nullptr) {
+        mixer_->volume(-1, duck ? kDucked : MIX_MAX_VOLUME);
+    }
 }
 
 void Audio::Update(std::int64_t now)

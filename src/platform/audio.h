@@ -29,6 +29,8 @@ public:
     void Play(std::string_view file) { wanted_ = file; }
     // Milliseconds of any steady clock.
     void Update(std::int64_t now);
+    // Lower while somebody speaks.
+    void Duck(bool duck);
     std::optional<std::int64_t> NextDue() const;
     bool Open() const { return mixer_ != nullptr; }
 
@@ -46,9 +48,10 @@ private:
     std::string wanted_;
     std::map<std::string, Chunk> kept_;  // short ones, which are heard all the time
     Chunk current_;                      // else the one that sounds
-    const Mixer* mixer_ = nullptr;       // while the device is open
-    std::int64_t quietAt_ = 0;           // when the device may be closed
-    std::int64_t retryAt_ = 0;           // when a device is looked for again
+    bool ducked_ = false;
+    const Mixer* mixer_ = nullptr;  // while the device is open
+    std::int64_t quietAt_ = 0;      // when the device may be closed
+    std::int64_t retryAt_ = 0;      // when a device is looked for again
 };
 
 }  // namespace platform

@@ -16,20 +16,30 @@ std::int64_t Now()
 
 }  // namespace
 
-EventLoop::EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painter& painter, Audio& audio)
+EventLoop::EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painter& painter, Audio& audio,
+                     Narration* narration)
     : desktop_(desktop)
     , host_(host)
     , window_(window)
     , painter_(painter)
     , audio_(audio)
+    , narration_(narration)
     , input_(desktop, painter, window)
     , passed_(Now())
 {}
 
+bool EventLoop::Speaking() const
+{
+    return narration_ != nullptr && narration_->Speaking();
+}
+
+// A pause waits for who is being told something.
 void EventLoop::LetTimePass()
 {
     const std::int64_t now = Now();
-    desktop_.Advance(now - passed_);
+    if (!desktop_.NextDue() || !Speaking()) {
+        desktop_.Advance(now - passed_);
+    }
     passed_ = now;
 }
 
@@ -37,7 +47,9 @@ int EventLoop::Patience() const
 {
     std::int64_t wait = std::numeric_limits<int>::max();
     const std::int64_t since = Now() - passed_;
-    if (const auto due = desktop_.NextDue()) {
+    if (const auto due = desktop_.NextDue(); due && Speaking()) {
+        wait = narration_->NextDue().value_or(Now()) - Now();
+    } else if (due) {
         wait = std::min(wait, *due - desktop_.Now() - since);
     }
     if (const auto due = audio_.NextDue()) {
@@ -78,6 +90,10 @@ void EventLoop::Run()
     while (!host_.Ended()) {
         Show();
         input_.FollowFocus();
+        if (narration_ != nullptr) {
+            narration_->Update();
+            audio_.Duck(narration_->Speaking());
+        }
         audio_.Update(Now());  // behind the frame, which the player is waiting for
         SDL_Event event{};
         const bool happened = SDL_WaitEventTimeout(&event, Patience()) == 1;

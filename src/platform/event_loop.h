@@ -7,6 +7,7 @@
 
 #include "platform/audio.h"
 #include "platform/input.h"
+#include "platform/narration.h"
 #include "platform/painter.h"
 #include "platform/sdl_host.h"
 #include "platform/window.h"
@@ -18,7 +19,8 @@ namespace platform {
 
 class EventLoop {
 public:
-    EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painter& painter, Audio& audio);
+    EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painter& painter, Audio& audio,
+              Narration* narration = nullptr);
 
     // Paints what changed since the last time.
     void Show();
@@ -27,6 +29,7 @@ public:
 
 private:
     void HandleAll(SDL_Event& event);
+    bool Speaking() const;
     void LetTimePass();
     int Patience() const;  // milliseconds to the next thing that is due; -1 when nothing is
 
@@ -35,6 +38,7 @@ private:
     Window& window_;
     Painter& painter_;
     Audio& audio_;
+    Narration* narration_;
     Input input_;
     std::int64_t passed_ = 0;  // how much of SDL's time the desktop has seen
 };

@@ -19,6 +19,7 @@ enum class When : std::uint8_t {
     Once,       // not again while it is held down
     NotTyping,  // once, and in a text box it is a character
     Control,    // together with the control key
+    Alt,        // together with the left Alt key
 };
 
 struct KeyRow {
@@ -28,22 +29,51 @@ struct KeyRow {
 };
 
 constexpr KeyRow kKeys[] = {
-    {SDLK_RETURN, When::Once, Key::Return},    {SDLK_KP_ENTER, When::Once, Key::Return},
-    {SDLK_ESCAPE, When::Once, Key::Escape},    {SDLK_F1, When::Once, Key::F1},
-    {SDLK_TAB, When::Always, Key::Tab},        {SDLK_UP, When::Always, Key::Up},
-    {SDLK_DOWN, When::Always, Key::Down},      {SDLK_LEFT, When::Always, Key::Left},
-    {SDLK_RIGHT, When::Always, Key::Right},    {SDLK_HOME, When::Always, Key::Home},
-    {SDLK_END, When::Always, Key::End},        {SDLK_BACKSPACE, When::Always, Key::Backspace},
-    {SDLK_DELETE, When::Always, Key::Delete},  {SDLK_SPACE, When::NotTyping, Key::Space},
-    {SDLK_1, When::NotTyping, Key::Digit1},    {SDLK_2, When::NotTyping, Key::Digit2},
-    {SDLK_3, When::NotTyping, Key::Digit3},    {SDLK_4, When::NotTyping, Key::Digit4},
-    {SDLK_5, When::NotTyping, Key::Digit5},    {SDLK_6, When::NotTyping, Key::Digit6},
-    {SDLK_KP_1, When::NotTyping, Key::Digit1}, {SDLK_KP_2, When::NotTyping, Key::Digit2},
-    {SDLK_KP_3, When::NotTyping, Key::Digit3}, {SDLK_KP_4, When::NotTyping, Key::Digit4},
-    {SDLK_KP_5, When::NotTyping, Key::Digit5}, {SDLK_KP_6, When::NotTyping, Key::Digit6},
-    {SDLK_a, When::Control, Key::SelectAll},   {SDLK_c, When::Control, Key::Copy},
-    {SDLK_INSERT, When::Control, Key::Copy},   {SDLK_x, When::Control, Key::Cut},
+    {SDLK_UP, When::Alt, Key::AltUp},
+    {SDLK_DOWN, When::Alt, Key::AltDown},
+    {SDLK_LEFT, When::Alt, Key::AltLeft},
+    {SDLK_RIGHT, When::Alt, Key::AltRight},
+    {SDLK_RETURN, When::Once, Key::Return},
+    {SDLK_KP_ENTER, When::Once, Key::Return},
+    {SDLK_ESCAPE, When::Once, Key::Escape},
+    {SDLK_F1, When::Once, Key::F1},
+    {SDLK_TAB, When::Always, Key::Tab},
+    {SDLK_UP, When::Always, Key::Up},
+    {SDLK_DOWN, When::Always, Key::Down},
+    {SDLK_LEFT, When::Always, Key::Left},
+    {SDLK_RIGHT, When::Always, Key::Right},
+    {SDLK_HOME, When::Always, Key::Home},
+    {SDLK_END, When::Always, Key::End},
+    {SDLK_BACKSPACE, When::Always, Key::Backspace},
+    {SDLK_DELETE, When::Always, Key::Delete},
+    {SDLK_SPACE, When::NotTyping, Key::Space},
+    {SDLK_1, When::NotTyping, Key::Digit1},
+    {SDLK_2, When::NotTyping, Key::Digit2},
+    {SDLK_3, When::NotTyping, Key::Digit3},
+    {SDLK_4, When::NotTyping, Key::Digit4},
+    {SDLK_5, When::NotTyping, Key::Digit5},
+    {SDLK_6, When::NotTyping, Key::Digit6},
+    {SDLK_KP_1, When::NotTyping, Key::Digit1},
+    {SDLK_KP_2, When::NotTyping, Key::Digit2},
+    {SDLK_KP_3, When::NotTyping, Key::Digit3},
+    {SDLK_KP_4, When::NotTyping, Key::Digit4},
+    {SDLK_KP_5, When::NotTyping, Key::Digit5},
+    {SDLK_KP_6, When::NotTyping, Key::Digit6},
+    {SDLK_a, When::Control, Key::SelectAll},
+    {SDLK_c, When::Control, Key::Copy},
+    {SDLK_INSERT, When::Control, Key::Copy},
+    {SDLK_x, When::Control, Key::Cut},
     {SDLK_v, When::Control, Key::Paste},
+    {SDLK_F2, When::Once, Key::F2},
+    {SDLK_F3, When::Once, Key::F3},
+    {SDLK_F4, When::Once, Key::F4},
+    {SDLK_F5, When::Once, Key::F5},
+    {SDLK_F6, When::Once, Key::F6},
+    {SDLK_F7, When::Once, Key::F7},
+    {SDLK_F8, When::Once, Key::F8},
+    {SDLK_F9, When::Once, Key::F9},
+    {SDLK_PAGEUP, When::Always, Key::PageUp},
+    {SDLK_PAGEDOWN, When::Always, Key::PageDown},
 };
 
 // The row's digits give characters on many layouts only together with Shift; the key itself counts then.
@@ -63,7 +93,8 @@ std::optional<Key> Find(const SDL_KeyboardEvent& event, bool typing)
     const auto wanted = [&](const KeyRow& row) {
         return row.code == event.keysym.sym &&
                (row.when == When::Always || (row.when == When::Once && once) ||
-                (row.when == When::NotTyping && once && !typing) || (row.when == When::Control && control));
+                (row.when == When::NotTyping && once && !typing) || (row.when == When::Control && control) ||
+                (row.when == When::Alt && Holds(event.keysym, KMOD_LALT)));
     };
     const auto* const row = std::find_if(std::begin(kKeys), std::end(kKeys), wanted);
     if (row != std::end(kKeys)) {

@@ -16,6 +16,7 @@ struct Mixer {
     decltype(&::Mix_FreeChunk) freeChunk = nullptr;
     decltype(&::Mix_PlayChannelTimed) playChannel = nullptr;
     decltype(&::Mix_HaltChannel) haltChannel = nullptr;
+    decltype(&::Mix_Volume) volume = nullptr;
 };
 
 // Null when the library is not there. What is loaded stays.

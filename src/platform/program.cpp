@@ -1,6 +1,7 @@
 #include "platform/program.h"
 
 #include "platform/event_loop.h"
+#include "platform/narration.h"
 #include "platform/quiet.h"
 #include "platform/signals.h"
 #include "platform/window_manager.h"
@@ -93,7 +94,8 @@ void SetIcon(Window& window, const files::ProgramFolder& folder)
     }
 }
 
-void RunInWindow(ui::Desktop& desktop, SdlHost& host, const files::ProgramFolder& folder)
+void RunInWindow(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& host,
+                 const files::ProgramFolder& folder)
 {
     Guard guard;  // first: a fork wants a program with one thread
     XSetIOErrorHandler(LeaveAtOnce);
@@ -105,19 +107,21 @@ void RunInWindow(ui::Desktop& desktop, SdlHost& host, const files::ProgramFolder
     Painter painter(folder);
     Audio audio(folder);
     host.Attach(&window, &audio, folder);
-    EventLoop loop(desktop, host, window, painter, audio);
+    Narration narration(narrator);
+    EventLoop loop(desktop, host, window, painter, audio, &narration);
     loop.Show();
     SetIcon(window, folder);  // can wait until the player sees something
+    narration.OfferWhenWanted();
     loop.Run();
     host.Attach(nullptr, nullptr, folder);
 }
 
 }  // namespace
 
-int Run(ui::Desktop& desktop, SdlHost& host, const files::ProgramFolder& folder)
+int Run(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& host, const files::ProgramFolder& folder)
 {
     try {
-        RunInWindow(desktop, host, folder);
+        RunInWindow(desktop, narrator, host, folder);
     } catch (const std::runtime_error& error) {
         std::cerr << "quenvale: " << error.what() << '\n';
         return EXIT_FAILURE;

@@ -14,5 +14,5 @@ int main(int count, char** words)
     chance.Seed(count > 1 ? std::stoull(words[1]) : 0);
     Game game(host, files::ProgramFolder::Find(), chance);
     game.Start();
-    return platform::Run(game.GetDesktop(), host, game.Folder());
+    return platform::Run(game.GetDesktop(), game.GetNarrator(), host, game.Folder());
 }

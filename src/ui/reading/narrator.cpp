@@ -88,9 +88,6 @@ void Narrator::Switch(bool on)
         desktop_.onSettled = {};
         known_.clear();
         Say({"Narration is off."}, true);
-        if (voice_ != nullptr) {
-            voice_->Rest();
-        }
         return;
     }
     std::vector<std::string> lines{"Narration is on. F2 turns it off again, F6 tells all its keys."};
@@ -109,6 +106,15 @@ void Narrator::Offer()
 {
     if (!on_) {
         Say({"This game can speak by itself. Press F2 to be governed by ear."}, false);
+    }
+}
+
+void Narrator::TellNoVoice() const
+{
+    if (report) {
+        report("Mr.President, this machine has no voice: Speech Dispatcher does not answer. What was to be "
+               "said can "
+               "still be read.");
     }
 }
 
@@ -212,8 +218,13 @@ void Narrator::Notice(ui::Cause cause)
     }
     Remember();
     Say(std::move(lines), cause != ui::Cause::Time);
+    answered_ = answered_ && cause != ui::Cause::Time;  // that was no answer to a key
     if (cause == ui::Cause::Key && !std::exchange(answered_, false)) {
-        Say({"Nothing happens."}, true);
+        std::vector<std::string> nothing{"Nothing happens."};
+        if (focus != nullptr) {
+            Append(nothing, Lines(FocusLine(*focus)));
+        }
+        Say(std::move(nothing), true);
         answered_ = false;
     }
 }

@@ -35,9 +35,13 @@ public:
     bool Press(ui::Key key);
     // Says it even when off: that there is a voice, and how to have it.
     void Offer();
+    // There is nobody who could say it: told in print.
+    void TellNoVoice() const;
 
     // How the country stands, in a few lines.
     std::function<std::vector<std::string>()> strip;
+    // Prints a message where the game prints its messages.
+    std::function<void(std::string_view)> report;
     // The player has switched it on or off.
     std::function<void(bool)> onSwitched;
 

@@ -15,8 +15,6 @@ public:
     virtual void Silence() = 0;
     // From -100, slow, to 100, fast; 0 is as the player has set his voice.
     virtual void SetRate(int rate) = 0;
-    // Nothing more will be said for now: what a voice costs can be given back.
-    virtual void Rest() {}
 };
 
 }  // namespace reading

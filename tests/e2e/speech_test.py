@@ -1,0 +1,201 @@
+#!/usr/bin/python3
+"""The game and a real Speech Dispatcher of its own, without a sound card: what is said, how soon, and when it dies.
+
+Its one module appends what it is told to say to a file; a second run has the real synthesiser speak to nobody.
+"""
+import contextlib
+import os
+import pathlib
+import signal
+import socket
+import statistics
+import subprocess
+import threading
+import time
+import unittest
+
+import stage
+import x11
+
+SOON = 0.1  # seconds from a key to the dispatcher
+TABS = 9
+SLOW = "sleep 4; "
+
+
+def bare(lines):
+    """Without blanks: a module may cut its lines anywhere."""
+    return "".join("".join(lines).split())
+
+
+class Dispatcher:
+    """Speech Dispatcher with a module that writes down what it says, or with the one named."""
+
+    def __init__(self, folder, module="written", first=""):
+        self.folder, self.said, self.socket = folder, folder / "said", folder / "speech"
+        (folder / "modules").mkdir(exist_ok=True)
+        program, settings = {"written": ("sd_generic", "written.conf"),
+                             "espeak-ng": ("sd_espeak-ng", "/etc/speech-dispatcher/modules/espeak-ng.conf")}[module]
+        (folder / "speechd.conf").write_text(
+            f'LogLevel 4\nDefaultLanguage "en"\nDefaultPunctuationMode "none"\nAudioOutputMethod "alsa"\n'
+            f'AudioALSADevice "null"\nAddModule "{module}" "{program}" "{settings}"\nDefaultModule "{module}"\n')
+        (folder / "modules" / "written.conf").write_text(
+            f'GenericExecuteSynth "{first}printf \'%s\\\\n\' \\\'$DATA\\\' >> {self.said}"\nGenericMaxChunkLength 1000\n'
+            'GenericDelimiters "\\n"\nGenericLanguage "en" "en" "utf-8"\nAddVoice "en" "MALE1" "x"\n'
+            'GenericRateAdd 1\nGenericRateMultiply 1\n')
+        self.process = None
+
+    def start(self):
+        self.socket.unlink(missing_ok=True)
+        self.process = subprocess.Popen(
+            ["speech-dispatcher", "-s", "-S", self.socket, "-C", self.folder, "-P", self.folder / "pid", "-t", "0", "-L",
+             self.folder], stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            start_new_session=True)
+
+    def die(self):
+        """Without a word, its modules too."""
+        if self.process.poll() is None:
+            os.killpg(self.process.pid, signal.SIGKILL)
+            self.process.wait()
+
+    def heard(self):
+        return bare(self.said.read_text()) if self.said.exists() else ""
+
+
+class Wire(threading.Thread):
+    """Between the game and the dispatcher: when which words came by."""
+
+    def __init__(self, here, there):
+        super().__init__(daemon=True)
+        self.there, self.words, self.replies = there, [], []
+        self.listener = socket.socket(socket.AF_UNIX)
+        self.listener.bind(str(here))
+        self.listener.listen()
+        self.start()
+
+    def run(self):
+        while True:
+            near, _ = self.listener.accept()
+            far = socket.socket(socket.AF_UNIX)
+            far.connect(str(self.there))
+            for source, target, words in ((near, far, self.words), (far, near, self.replies)):
+                threading.Thread(target=self.carry, args=(source, target, words), daemon=True).start()
+
+    @staticmethod
+    def carry(source, target, words):
+        with contextlib.suppress(OSError):  # either may die; that is what is tried
+            while data := source.recv(65536):
+                words.append((time.monotonic(), data.decode(errors="replace")))
+                target.sendall(data)
+
+    def came(self, text):
+        """When a text came by first, or None."""
+        return next((at for at, words in self.words if text in words), None)
+
+
+class Speech(stage.Case):
+    def dispatcher(self, *args, **more):
+        dispatcher = Dispatcher(self.scratch, *args, **more)
+        dispatcher.start()
+        self.addCleanup(dispatcher.die)
+        self.until("the dispatcher listens", dispatcher.socket.exists)
+        return dispatcher
+
+    def play(self, address):
+        game = self.game(self.server(), 7, SPEECHD_ADDRESS=f"unix_socket:{address}")
+        console = self.console()
+        console.ask("seed 7")
+        self.until("the title shows", lambda: game.picture() and game.picture().lit())
+        self.until("the game has the keyboard", game.window)
+        return game, console
+
+    @staticmethod
+    def maps(game):
+        return pathlib.Path(f"/proc/{game.process.pid}/maps").read_text()
+
+    def test_what_arrives_is_what_is_said(self):
+        dispatcher = self.dispatcher()
+        game, console = self.play(dispatcher.socket)
+        game.hands("key", "Tab")
+        self.assertNotIn("libspeechd", self.maps(game), "a silent game has no voice loaded")
+        expected = ""
+        for key in ("F2", "Return", "Tab", "Return", "F6", "Page_Down", "Up", "Return", "4", "Return", "2", "Tab", "Tab",
+                    "Return", "alt+Right", "F4"):
+            if key == "2":
+                time.sleep(1.5)  # just after typing a digit is none of the menu's commands
+            game.hands("key", key)
+            console.ask(f"key {key.replace('Page_Down', 'PageDown').replace('alt+Right', 'AltRight')}")
+            expected += bare(console.ask("spoken")["spoken"])
+            self.poll(lambda: len(dispatcher.heard()) >= len(expected), stage.LIMIT)
+            self.assertEqual(dispatcher.heard()[-400:], expected[-400:], f"after {key}")
+        self.assertIn("libspeechd", self.maps(game))
+
+    def test_words_are_soon_on_their_way(self):
+        dispatcher = self.dispatcher()
+        wire = Wire(self.scratch / "wire", dispatcher.socket)
+        game, console = self.play(self.scratch / "wire")
+        for key in ("F2", "Return"):
+            game.hands("key", key)
+            console.ask(f"key {key}")
+        self.until("the voice is there", lambda: wire.came("Start Game, button."))
+        waits = []
+        with x11.Display(game.server.name) as display:
+            for _ in range(TABS):
+                console.ask("spoken", "key Tab")
+                line = console.ask("spoken")["spoken"][-1]
+                wire.words.clear()
+                at = time.monotonic()
+                display.press(0xFF09)
+                self.until("the word comes by", lambda line=line: wire.came(line))
+                waits.append(wire.came(line) - at)
+        print(f"from a key to the dispatcher: {1000 * statistics.median(waits):.1f} ms, at most {1000 * max(waits):.1f} ms")
+        self.assertLess(statistics.median(waits), SOON)
+
+    def test_dispatcher_dies_in_mid_sentence_and_is_found_again(self):
+        dispatcher = self.dispatcher(first=SLOW)
+        game, console = self.play(dispatcher.socket)
+        game.hands("key", "F2")
+        time.sleep(1)  # it has begun its slow sentence
+        dispatcher.die()
+        for _ in range(3):
+            game.hands("key", "Tab")
+        game.hands("key", "Return")
+        console.ask("click frmlogo")
+        self.until("the game goes on", lambda: game.place() == (0, 0, *game.server.size()))
+        self.assertIsNone(game.process.poll())
+        again = Dispatcher(self.scratch)
+        again.start()
+        self.addCleanup(again.die)
+        self.until("the dispatcher listens again", again.socket.exists)
+
+        def heard():
+            game.hands("key", "Tab")
+            return "button.2of5." in again.heard()
+
+        self.until("it is found again", heard)
+        self.assertEqual(game.said(), "")
+
+    def test_without_a_dispatcher_the_message_is_printed(self):
+        game, console = self.play(self.scratch / "nobody")
+        game.click(stage.TITLE)
+        console.ask("click frmlogo")
+        self.until("the game fills the screen", lambda: game.place() == (0, 0, *game.server.size()))
+        game.hands("key", "F11")
+        self.until_shows(game, console, "the start screen")
+        game.hands("key", "F2")
+        message = console.place("frmStart.Label3")
+        empty = console.picture().crop(message)
+        self.until("the message is printed", lambda: game.picture() and game.picture().crop(message) != empty)
+        self.assertEqual(game.said(), "")
+
+    def test_real_synthesiser_ends_its_sentences(self):
+        dispatcher = self.dispatcher("espeak-ng")
+        wire = Wire(self.scratch / "wire", dispatcher.socket)
+        game, _ = self.play(self.scratch / "wire")
+        game.hands("key", "F2")
+        self.until("it is told to speak", lambda: wire.came("Narration is on."))
+        self.until("it has spoken", lambda: any("702 END" in words for _, words in wire.replies))
+        self.assertIsNone(game.process.poll())
+
+
+if __name__ == "__main__":
+    stage.main()
