@@ -104,9 +104,13 @@ TEST(Scene, ChangesWhollyAndTogether)
     const std::uint32_t welcome = paint();
     EXPECT_EQ(welcome, afresh());
     EXPECT_NE(test::PixelAt(*surface, 10, 300), 0U) << "the wall goes on beside the screen";
+    game.Press(ui::Key::F1);
+    EXPECT_NE(paint(), welcome) << "a key folds the message";
+    game.Screens().frmMonthBanner.Label1.SetFolded(false);
+    EXPECT_EQ(paint(), welcome);
     game.Click("frmMain");
     const std::uint32_t read = paint();
-    EXPECT_NE(read, welcome) << "a click folds the message";
+    EXPECT_NE(read, welcome) << "so does a click";
     EXPECT_EQ(read, afresh());
 
     auto& screens = game.Screens();

@@ -225,6 +225,7 @@ bool Desktop::PressOnForm(Key key)
 
 void Desktop::Press(Key key, Modifiers modifiers)
 {
+    NoteInput();
     PressKey(key, modifiers);
     Tell(Cause::Key);
 }
