@@ -31,8 +31,20 @@ TemporaryFolder::~TemporaryFolder()
     fs::remove_all(path_, ignored);
 }
 
+// A folder of the game's own files is a link until a test changes something in it.
+void TemporaryFolder::OwnFolderOf(std::string_view file) const
+{
+    const fs::path folder = path_ / *fs::path(file).begin();
+    if (fs::is_symlink(folder)) {
+        const fs::path original = fs::read_symlink(folder);
+        fs::remove(folder);
+        fs::copy(original, folder, fs::copy_options::recursive);
+    }
+}
+
 void TemporaryFolder::Write(std::string_view file, std::string_view content) const
 {
+    OwnFolderOf(file);
     fs::create_directories(Path(file).parent_path());
     std::ofstream out(Path(file), std::ios::binary);
     out << content;
@@ -54,18 +66,20 @@ bool TemporaryFolder::Has(std::string_view file) const
 
 void TemporaryFolder::Remove(std::string_view file) const
 {
+    OwnFolderOf(file);
     fs::remove_all(Path(file));
 }
 
 void TemporaryFolder::FillWithAssets() const
 {
     for (const fs::directory_entry& entry : fs::directory_iterator(Assets())) {
-        const fs::path target = path_ / entry.path().filename();
-        if (entry.path().filename() == "images" || entry.path().filename() == "sound") {
-            fs::create_directory_symlink(entry.path(), target);
-        } else {
-            fs::copy(entry.path(), target, fs::copy_options::recursive);
+        if (entry.is_directory() && entry.path().filename() != "Data") {
+            fs::create_directory_symlink(entry.path(), path_ / entry.path().filename());
         }
+    }
+    fs::create_directory(Path("Data"));
+    for (const char* file : {"Data/Manual.htm", "Data/Top"}) {
+        fs::copy(Assets() / file, Path(file));
     }
 }
 

@@ -4,8 +4,8 @@
 //     folder.Write("data/names", "ADA,BERTA");
 //     ... files::ProgramFolder(folder.Path()) ...
 //
-// FillWithAssets puts the game's own files into it: real copies of what the game may write or a test may
-// break, links to the pictures and sounds.
+// FillWithAssets puts the game's own files into it: real copies of what the game may write, links to
+// the rest until a test writes or removes something there.
 #pragma once
 
 #include <filesystem>
@@ -33,6 +33,8 @@ public:
     void FillWithAssets() const;
 
 private:
+    void OwnFolderOf(std::string_view file) const;
+
     std::filesystem::path path_;
 };
 
