@@ -38,6 +38,7 @@ TEST(ActionCards, HaveTheirOwnEffects)
         {10, {{"ExpPolice", 1000}}, {{"ExpPolice", 1100}, {"ActionDone[9]", 1}}},
         {11, {{"ExpUnemployment", 1000}}, {{"ExpUnemployment", 900}, {"ActionDone[12]", 1}}},
         {12, {{"ExpUnemployment", 1000}}, {{"ExpUnemployment", 1100}, {"ActionDone[11]", 1}}},
+        {15, {{"Money", 1}}, {{"Money", 150'000'001}, {"IslandsSold", 1}}},
         {15, {{"Money", 2'100'000'000}}, {{"Money", 2'147'483'647}, {"IslandsSold", 1}}},
         {16, {{"Population[PersonalArmy]", 500}, {"Strength[PersonalArmy]", 5}},
          {{"Population[PersonalArmy]", 1000}, {"Strength[PersonalArmy]", 10},

@@ -183,7 +183,12 @@ TEST(Newspaper, LeadsToTheChoiceOfAChief)
         EXPECT_EQ(game.Front().front(), screen);
         EXPECT_FALSE(game.Form("frmMain").Enabled());
         test::PickChief(game);
-        EXPECT_EQ(game.ClickRefused("frmMain.Label5(4)"), "");
+        EXPECT_EQ(game.ClickRefused("frmMain.Label5(1)"), "");
+
+        test::CalmDown(game);  // and the next newspaper takes no chief away
+        test::EndMonth(game, {Event(1), Die(1, 3)});
+        game.Click("frmNewspaper.Command1");
+        EXPECT_EQ(game.ClickRefused("frmMain.Label5(1)"), "");
     }
 }
 

@@ -60,6 +60,45 @@ TEST(Actions, AreRefusedWithTheirReasons)
     }
 }
 
+// What is written on a button is what it does: half of them have no other witness than their words.
+TEST(Actions, KeepTheWordOfTheirButtons)
+{
+    const struct {
+        const char *caption, *result;
+    } cases[] = {
+        {"Execute all the Prisoners!", "Victims"},
+        {"Release all the Prisoners!", "Population[Workers]"},
+        {"Sell an island for 150.000.000$!", "IslandsSold"},
+        {"Attack the Guerillas!", "GuerrillaWar"},
+        {"Run a Personal Campaing!", "Money"},
+        {"Increase  Army  funds", "ExpArmy"},
+        {"Increase  Police  funds", "ExpPolice"},
+        {"Increase  Health  expenses", "ExpHealth"},
+        {"Increase  Education expenses", "ExpEducation"},
+        {"Increase  Allowances", "ExpAllowances"},
+        {"Increase Unemployment Benefits", "ExpUnemployment"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.caption);
+        test::TestGame game;
+        game.StartGame();
+        game.Set({{"Population[Prisoners]", 500}, {"Strength[Guerrillas]", 9}});
+        game.Click("frmMain.Label5(0)");
+        for (const ui::Control* button : game.Form("frmActions").Controls()) {
+            if (button->Text() == c.caption && game.Shown("frmActions")) {
+                game.Click("frmActions." + button->Name());
+            }
+        }
+        const core::GameState before = game.State();
+        game.Click("frmShow.Command3");
+        EXPECT_THAT(test::Changed(before, game.State()), testing::Contains(c.result));
+        const core::Element element = *core::FindElement(c.result);
+        const bool grew =
+            std::get<std::int64_t>(element.Get(before)) < std::get<std::int64_t>(element.Get(game.State()));
+        EXPECT_EQ(grew, std::string_view(c.result) != "Money");
+    }
+}
+
 TEST(Actions, ComeBackNextMonth)
 {
     TestGame game;

@@ -61,6 +61,20 @@ TEST_F(Menu, ClicksAndClearsTheBannerAtEveryCommand)
     }
 }
 
+TEST_F(Menu, PutsAwayWhateverTheLastCommandLeft)
+{
+    for (const std::string form : {"frmTaxes", "frmPolice", "frmOptions", "frmBank", "frmActions", "frmShow",
+                                   "frmPolc", "frmArmyC", "frmSave", "frmLoad", "frmHistory", "frmWAR",
+                                   "frmGameLoaded", "frmAIN", "frmTop102", "frmPrRev", "frmNewspaper"}) {
+        SCOPED_TRACE(form);
+        game.Form(form).Show();
+        game.Click("frmMain.Label5(3)");
+        EXPECT_THAT(game.Front(), ElementsAre("frmArmy", "frmMain", "frmMonthBanner"));
+    }
+    game.Click("frmMain.Label5(1)");
+    EXPECT_FALSE(game.Shown("frmArmy"));
+}
+
 TEST_F(Menu, IsSilentWhileTheMonthGoesOn)
 {
     game.Click("frmMain.Label5(4)");

@@ -196,33 +196,55 @@ TEST(CivilWar, RebelsPayAndGuardsFall)
     }
 }
 
+// Beaten once, for good: the force that struck gets a new chief, the other one keeps its own.
 TEST(CivilWar, AfterACoupTheChiefIsReplaced)
 {
-    test::TestGame game;
-    game.StartGame();
-    game.Set({{"MonthsInPower", 4}, {"PoliceChiefs[0][2]", 1}, {"ArmyChiefs[0][3]", 10}});
-    game.Click("frmMain.Label5(4)");
-    game.Tell({0});
-    game.Wait(3000);
-    game.Click("frmMes3.Command1");
-    EXPECT_EQ(game.Control("frmRev.Image1").Now().picture, "images/coup.bmp");
-    EXPECT_THAT(game.Text("frmRev.Label2"),
-                testing::StartsWith("Mr.President, the Army started a war against you!"));
-    game.Click("frmRev.Command2");
-    game.Click("frmChoose.Command1(5)");
-    game.Click("frmMes2.Command2");
-    game.Set({{"AlliedStrength", 100}, {"PoliceNoInfo", 1}});
-    game.Wait(7500);
-    EXPECT_EQ(game.Banner(), "You win! Revolutioneries' leaders were arrested and executed!");
-    game.Expect(
-        {{"CoupState", 11}, {"PoliceNoInfo", 0}, {"RevolutionWait[6]", 4}});  // the month has been closed
-    EXPECT_EQ(game.ClickRefused("frmMain.Label5(3)"), "frmMain is disabled");
-    game.Wait(7500);
-    EXPECT_EQ(game.Front().front(), "frmArmyC");
-    game.Click("frmArmyC.Label1(3)");
-    EXPECT_THAT(game.Banner(), testing::EndsWith(" IS THE NEW ARMY CHIEF!"));
-    game.Expect({{"CoupState", 0}});
-    EXPECT_EQ(game.ClickRefused("frmMain.Label5(3)"), "");
+    const struct {
+        const char *army, *police;  // their chiefs' ambition
+        std::int64_t armyAmbition, policeAmbition, coup;
+        const char *announced, *screen, *appointed, *wait, *theirs, *others;
+    } cases[] = {
+        {"ArmyChiefs[0][3]", "PoliceChiefs[0][3]", 10, 1, 11, "Army", "frmArmyC", " IS THE NEW ARMY CHIEF!",
+         "RevolutionWait[6]", "ArmyChiefs[0][1]", "PoliceChiefs[0][1]"},
+        {"ArmyChiefs[0][3]", "PoliceChiefs[0][3]", 1, 10, 22, "Police", "frmPolc",
+         " IS THE NEW POLICE CHIEF!", "RevolutionWait[7]", "PoliceChiefs[0][1]", "ArmyChiefs[0][1]"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.announced);
+        test::TestGame game;
+        game.StartGame();
+        game.Set({{"MonthsInPower", 4},
+                  {"PoliceChiefs[0][2]", 1},
+                  {"Strength[Police]", 40},
+                  {c.army, c.armyAmbition},
+                  {c.police, c.policeAmbition},
+                  {c.theirs, "HE"},
+                  {c.others, "THE OTHER"}});
+        game.Click("frmMain.Label5(4)");
+        game.Tell({0});
+        game.Wait(3000);
+        game.Click("frmMes3.Command1");
+        EXPECT_EQ(game.Control("frmRev.Image1").Now().picture, "images/coup.bmp");
+        EXPECT_THAT(game.Text("frmRev.Label2"),
+                    testing::StartsWith("Mr.President, the " + std::string(c.announced) +
+                                        " started a war against you!"));
+        game.Click("frmRev.Command2");
+        game.Click("frmChoose.Command1(5)");
+        game.Click("frmMes2.Command2");
+        game.Set({{"AlliedStrength", 100}, {"PoliceNoInfo", 1}});
+        game.Wait(7500);
+        EXPECT_EQ(game.Banner(), "You win! Revolutioneries' leaders were arrested and executed!");
+        game.Expect({{"CoupState", c.coup}, {"PoliceNoInfo", 0}, {c.wait, 4}});  // the month has been closed
+        EXPECT_EQ(game.ClickRefused("frmMain.Label5(3)"), "frmMain is disabled");
+        game.Wait(7500);
+        EXPECT_EQ(game.Front().front(), c.screen);
+        game.Click(std::string(c.screen) + ".Label1(3)");
+        EXPECT_THAT(game.Banner(), testing::EndsWith(c.appointed));
+        game.Expect({{"CoupState", 0}, {c.others, "THE OTHER"}});
+        EXPECT_NE(game.Text(std::string(c.screen) + ".Label1(0)"), "HE");
+        EXPECT_FALSE(game.Desktop().NextDue().has_value());
+        EXPECT_EQ(game.ClickRefused("frmMain.Label5(3)"), "");
+    }
 }
 
 TEST(CivilWar, WhoseOfferCannotBeReadCannotBeAsked)

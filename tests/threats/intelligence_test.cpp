@@ -60,6 +60,10 @@ TEST(Intelligence, WritesItsParagraphLetterByLetter)
          {{1, 90, 40, 1}, {2, 90, 10, 1, 1}},
          "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  Also "
          "notice that we will not have any assasination attempts next month!"},
+        {"and so are supporters who wait",
+         {{1, 65, 30}, {2, 90, 10, 1, 1}},
+         "The Workers could start a revolution, but there are no other parties willing to support them! "
+         "Also notice that we will not have any assasination attempts next month!"},
         {"weak assassins",
          {{3, 65, 29, 1}},
          "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  "

@@ -54,16 +54,12 @@ TEST(Revolts, GuerrillasPayForTheirRevolt)
                                   {"OutsiderRevolt", 1},
                                   {"RevolutionStarter", 0},
                                   {"RevolutionaryPct", 0},
-                                  {"Strength[Workers]", 18},
-                                  {"Strength[Businessmen]", 15},
-                                  {"Strength[Landowners]", 17},
-                                  {"Strength[Army]", 10},
                                   {"Opposition[Businessmen]", 25},
                                   {"Opposition[Army]", 0},
-                                  {"Strength[Guerrillas]", 7},
                                   {"Population[Guerrillas]", 8'800},  // 7 + 5 percent of them are dead
                                   {"Victims", 1'200},
                               });
+    EXPECT_THAT(state.Strength, ElementsAre(18, 18, 15, 17, 17, 10, 10, 7, 5, 10));
     EXPECT_THAT(state.Revolutionaries, ElementsAre(0, 1, 1, 1, 1, 1, 0, 0, 0, 0));
 }
 

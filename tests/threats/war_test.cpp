@@ -23,6 +23,8 @@ TEST(War, IsWonByTheChiefTheArmyAndTheDice)
         {"a tie is a defeat", 70, 5, 2, 60, Roll(10, 1, 10), Roll(6, 1, 15), false},
         {"91 and 1 against 85 and 10", 70, 10, 3, 85, Roll(1, 1, 15), Roll(10, 1, 10), false},
         {"91 and 5 against 85 and 10", 70, 10, 3, 85, Roll(5, 1, 15), Roll(10, 1, 10), true},
+        {"the least of the stronger", 70, 10, 3, 85, Roll(1, 1, 15), Roll(6, 1, 10), true},
+        {"is a tie with seven", 70, 10, 3, 85, Roll(1, 1, 15), Roll(7, 1, 10), false},
         {"of equals the enemy is the stronger", 60, 7, 1, 60, Roll(10, 1, 10), Roll(10, 1, 15), false},
         {"a chief of 1 wastes six tenths", 100, 1, 1, 39, Roll(1, 1, 15), Roll(1, 1, 10), true},
     };
@@ -45,7 +47,24 @@ TEST(War, IsWonByTheChiefTheArmyAndTheDice)
     }
 }
 
-TEST(War, DefeatTakesAFifthOfTheArmysStrength)
+// A tenth for each point of ability and three more: an enemy as strong as that is beaten by a draw one higher.
+TEST(War, EveryChiefLeadsByHisAbility)
+{
+    for (std::int64_t ability = 1; ability <= 10; ++ability) {
+        for (const bool won : {false, true}) {
+            SCOPED_TRACE(ability);
+            core::GameState state;
+            state.War = 2;
+            state.Strength[core::Army] = 100;
+            state.ArmyChiefs[0][core::kAbility] = core::i32{ability};
+            state.FerazStrength = 30 + 10 * ability;
+            test::ToldChance chance({Roll(won ? 2 : 1, 1, 10), Roll(1, 1, 15)});
+            EXPECT_EQ(threats::WarIsWon(state, chance), won);
+        }
+    }
+}
+
+TEST(War, DefeatIsBlamedByAllAndTakesAFifthOfTheArmysStrength)
 {
     struct Case {
         std::int64_t before, after;
@@ -55,6 +74,7 @@ TEST(War, DefeatTakesAFifthOfTheArmysStrength)
         state.Strength[core::Army] = c.before;
         threats::TakeDefeat(state);
         EXPECT_EQ(state.Strength[core::Army], c.after);
+        EXPECT_THAT(state.Opposition, testing::ElementsAre(5, 5, 5, 5, 5, 15, 5, 0, 0));
     }
 }
 
