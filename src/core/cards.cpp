@@ -34,8 +34,10 @@ std::string NameOf(std::size_t figure)
 files::Result<Items> ReadItemsOf(const files::ProgramFolder& folder, std::string_view file, std::size_t count)
 {
     files::Result<Items> items = files::ReadItems(folder.Path(file), file);
-    if (items && items->size() < count) {
-        const int line = items->empty() ? 0 : items->back().line;
+    if (items && items->size() != count) {
+        const int line = items->size() > count ? (*items)[count].line
+                         : items->empty()      ? 0
+                                               : items->back().line;
         return files::FileError{std::string(file), line,
                                 "expected " + std::to_string(count) + " items, found " +
                                     std::to_string(items->size())};

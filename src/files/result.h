@@ -16,6 +16,9 @@ struct FileError {
     std::string file;
     int line = 0;
     std::string what;
+    // Of the content: the file was read whole and is wrong. Of the system: nobody knows what is in it, so nothing
+    // may be written over it or moved aside.
+    enum class Fault { Content, System } fault = Fault::Content;
 
     // "data/names, line 12: expected a surname, found nothing"
     std::string Message() const

@@ -29,6 +29,21 @@ int SystemCalls::Open(const char* path, int flags, unsigned mode)
     return Uninterrupted([&] { return ::open(path, flags, mode); });
 }
 
+int SystemCalls::Look(const char* path, struct stat& found)
+{
+    return Uninterrupted([&] { return ::lstat(path, &found); });
+}
+
+int SystemCalls::Describe(int file, struct stat& found)
+{
+    return Uninterrupted([&] { return ::fstat(file, &found); });
+}
+
+std::int64_t SystemCalls::Read(int file, char* data, std::size_t size)
+{
+    return Uninterrupted([&] { return ::read(file, data, size); });
+}
+
 std::int64_t SystemCalls::Write(int file, const char* data, std::size_t size)
 {
     return Uninterrupted([&] { return ::write(file, data, size); });
@@ -47,17 +62,33 @@ int SystemCalls::Close(int file)
 
 int SystemCalls::Rename(const char* from, const char* to)
 {
-    return std::rename(from, to);
+    return Uninterrupted([&] { return std::rename(from, to); });
+}
+
+// Some file systems cannot do it in one step. There the folder's lock keeps the other games out in between.
+int SystemCalls::RenameToNew(const char* from, const char* to)
+{
+    const int result =
+        Uninterrupted([&] { return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE); });
+    if (result == 0 || (errno != EINVAL && errno != ENOSYS)) {
+        return result;
+    }
+    struct stat found {};
+    if (Look(to, found) == 0) {
+        errno = EEXIST;
+        return -1;
+    }
+    return errno == ENOENT ? Rename(from, to) : -1;
 }
 
 int SystemCalls::Remove(const char* path)
 {
-    return ::unlink(path);
+    return Uninterrupted([&] { return ::unlink(path); });
 }
 
 int SystemCalls::MakeFolder(const char* path, unsigned mode)
 {
-    return ::mkdir(path, mode);
+    return Uninterrupted([&] { return ::mkdir(path, mode); });
 }
 
 int SystemCalls::Lock(int file)

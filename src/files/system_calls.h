@@ -1,4 +1,5 @@
-// The few calls to the system with which the game writes its files, so that a test can let any of them fail.
+// The few calls to the system with which the game reads and writes its files, so that a test can let any of them
+// fail.
 //
 //     files::SystemCalls system;
 //     const int file = system.Open("Save/Save1.new", O_WRONLY | O_CREAT, 0666);
@@ -9,6 +10,8 @@
 #include <cstddef>
 #include <cstdint>
 
+struct stat;
+
 namespace files {
 
 class SystemCalls {
@@ -16,10 +19,14 @@ public:
     virtual ~SystemCalls() = default;
 
     virtual int Open(const char* path, int flags, unsigned mode);
+    virtual int Look(const char* path, struct stat& found);  // at a link, not through it
+    virtual int Describe(int file, struct stat& found);
+    virtual std::int64_t Read(int file, char* data, std::size_t size);         // may read less; 0 at the end
     virtual std::int64_t Write(int file, const char* data, std::size_t size);  // may write less
     virtual int Flush(int file);  // to the disk itself; also of an opened folder
     virtual int Close(int file);
     virtual int Rename(const char* from, const char* to);
+    virtual int RenameToNew(const char* from, const char* to);  // EEXIST when that name is taken
     virtual int Remove(const char* path);
     virtual int MakeFolder(const char* path, unsigned mode);
     virtual int Lock(int file);  // at once, or EWOULDBLOCK; closing the file gives the lock back

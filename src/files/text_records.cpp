@@ -3,13 +3,9 @@
 #include <utf8.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
-#include <cstring>
-#include <fstream>
 #include <iterator>
-#include <system_error>
 
 namespace files {
 
@@ -131,31 +127,6 @@ template <class T> std::optional<T> Finite(const Item& item)
 }
 
 }  // namespace
-
-Result<std::string> ReadWhole(const std::filesystem::path& path, std::string_view name)
-{
-    const auto wrong = [name](std::string what) { return FileError{std::string(name), 0, std::move(what)}; };
-    std::error_code error;
-    if (std::filesystem::is_directory(path, error)) {
-        return wrong("expected a file, found a folder");
-    }
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
-        return wrong(std::string("cannot be read (") + std::strerror(errno) + ")");
-    }
-    std::string content;
-    char block[1U << 14U];
-    while (in.read(block, sizeof block) || in.gcount() > 0) {
-        content.append(block, static_cast<std::size_t>(in.gcount()));
-        if (content.size() > kLargestFile) {
-            return wrong("expected at most " + std::to_string(kLargestFile) + " bytes, found more");
-        }
-    }
-    if (in.bad()) {
-        return wrong("cannot be read to its end");
-    }
-    return content;
-}
 
 Result<std::vector<Item>> ParseItems(std::string_view content, std::string_view name)
 {

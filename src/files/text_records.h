@@ -8,6 +8,7 @@
 #pragma once
 
 #include "files/result.h"
+#include "files/whole_file.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -24,10 +25,6 @@ struct Item {
     int line = 0;
 };
 
-// A file larger than this is no record file of ours, whatever it is called.
-inline constexpr std::uintmax_t kLargestFile = 1U << 20U;
-
-Result<std::string> ReadWhole(const std::filesystem::path& path, std::string_view name);
 Result<std::vector<Item>> ParseItems(std::string_view content, std::string_view name);
 Result<std::vector<Item>> ReadItems(const std::filesystem::path& path, std::string_view name);
 

@@ -1,9 +1,10 @@
 #include "files/written_files.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <cerrno>
-#include <system_error>
+#include <utility>
 
 namespace files {
 
@@ -17,11 +18,6 @@ constexpr unsigned kFolderMode = 0777;
 // Another game keeps the lock for a few milliseconds. One that was stopped in the middle keeps it for ever.
 constexpr int kLockTries = 200;
 constexpr int kLockPause = 10;  // milliseconds
-
-FileError Error(std::string_view file, const std::string& what, int reason)
-{
-    return {std::string(file), 0, what + " (" + std::generic_category().message(reason) + ")"};
-}
 
 // Some file systems know no locks. A save without a lock is better than none.
 bool KnowsNoLocks(int reason)
@@ -40,35 +36,65 @@ std::string AsideName(std::string_view file, int number)
     return std::string(file) + ".unreadable" + (number > 1 ? "-" + std::to_string(number) : "");
 }
 
-bool Exists(const fs::path& path)
-{
-    std::error_code error;
-    return fs::exists(fs::symlink_status(path, error));
-}
-
 }  // namespace
 
-bool WrittenFiles::Has(std::string_view file) const
+Result<bool> WrittenFiles::Exists(const fs::path& path, std::string_view file) const
 {
-    return Exists(folder_.ReadPath(file));
+    struct stat found {};
+    if (system_.Look(path.c_str(), found) == 0) {
+        return true;
+    }
+    return errno == ENOENT ? Result<bool>(false) : SystemError(file, "cannot be looked at", errno);
+}
+
+// Where the file is read: as the game wrote it, else as it was shipped.
+Result<fs::path> WrittenFiles::Place(std::string_view file) const
+{
+    fs::path written = folder_.WritePath(file);
+    const Result<bool> there = Exists(written, file);
+    if (!there) {
+        return there.Error();
+    }
+    return *there ? std::move(written) : folder_.Path(file);
+}
+
+Result<bool> WrittenFiles::Has(std::string_view file) const
+{
+    const Result<fs::path> place = Place(file);
+    return place ? Exists(*place, file) : place.Error();
+}
+
+Result<std::string> WrittenFiles::ReadWhole(std::string_view file) const
+{
+    const Result<fs::path> place = Place(file);
+    return place ? files::ReadWhole(system_, *place, file) : place.Error();
 }
 
 Result<std::vector<Item>> WrittenFiles::Read(std::string_view file) const
 {
-    return ReadItems(folder_.ReadPath(file), file);
+    const Result<std::string> content = ReadWhole(file);
+    return content ? ParseItems(*content, file) : content.Error();
 }
 
 Failure WrittenFiles::MakeFolders(const fs::path& folder, std::string_view file) const
 {
+    const Result<bool> there = Exists(folder, file);
+    if (!there) {
+        return there.Error();
+    }
     const fs::path parent = folder.parent_path();
-    if (parent == folder || Exists(folder)) {
+    if (*there || parent == folder) {
         return std::nullopt;
+    }
+    if (folder == folder_.Root()) {
+        return FileError{std::string(file), 0, "the game's own folder " + folder.string() + " is gone",
+                         FileError::Fault::System};
     }
     if (Failure failure = MakeFolders(parent, file)) {
         return failure;
     }
     if (system_.MakeFolder(folder.c_str(), kFolderMode) == -1 && errno != EEXIST) {
-        return Error(file, "its folder cannot be made", errno);
+        return SystemError(file, "its folder cannot be made", errno);
     }
     // The new folder's own entry must last as well. Where it does not, the files' folders still hold together.
     const int opened = system_.Open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
@@ -87,7 +113,7 @@ Result<FolderLock> WrittenFiles::Lock(std::string_view file) const
     }
     const int opened = system_.Open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
     if (opened == -1) {
-        return Error(file, "its folder cannot be opened", errno);
+        return SystemError(file, "its folder cannot be opened", errno);
     }
     FolderLock lock(system_, opened);
     for (int i = 0; i < kLockTries; ++i) {
@@ -95,11 +121,12 @@ Result<FolderLock> WrittenFiles::Lock(std::string_view file) const
             return lock;
         }
         if (errno != EWOULDBLOCK) {
-            return Error(file, "its folder cannot be locked", errno);
+            return SystemError(file, "its folder cannot be locked", errno);
         }
         system_.Pause(kLockPause);
     }
-    return FileError{std::string(file), 0, "another game has kept its folder locked for too long"};
+    return FileError{std::string(file), 0, "another game has kept its folder locked for too long",
+                     FileError::Fault::System};
 }
 
 Failure WrittenFiles::WriteBeside(const fs::path& path, std::string_view file, std::string_view content) const
@@ -108,7 +135,7 @@ Failure WrittenFiles::WriteBeside(const fs::path& path, std::string_view file, s
     const int opened =
         system_.Open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, kFileMode);
     if (opened == -1) {
-        return Error(file, "cannot be written", errno);
+        return SystemError(file, "cannot be written", errno);
     }
     Failure failure;
     while (!failure && !content.empty()) {
@@ -116,14 +143,14 @@ Failure WrittenFiles::WriteBeside(const fs::path& path, std::string_view file, s
         if (written > 0) {
             content.remove_prefix(static_cast<std::size_t>(written));
         } else {
-            failure = Error(file, "cannot be written", written == 0 ? ENOSPC : errno);
+            failure = SystemError(file, "cannot be written", written == 0 ? ENOSPC : errno);
         }
     }
     if (!failure && system_.Flush(opened) == -1) {
-        failure = Error(file, "cannot be flushed to the disk", errno);
+        failure = SystemError(file, "cannot be flushed to the disk", errno);
     }
     if (system_.Close(opened) == -1 && !failure) {
-        failure = Error(file, "cannot be closed", errno);
+        failure = SystemError(file, "cannot be closed", errno);
     }
     return failure;
 }
@@ -134,7 +161,7 @@ Failure WrittenFiles::Replace(const FolderLock& lock, std::string_view file, std
     const fs::path beside = Beside(path);
     Failure failure = WriteBeside(beside, file, content);
     if (!failure && system_.Rename(beside.c_str(), path.c_str()) == -1) {
-        failure = Error(file, "cannot be put in its place", errno);
+        failure = SystemError(file, "cannot be put in its place", errno);
     }
     if (failure) {
         system_.Remove(beside.c_str());
@@ -142,7 +169,7 @@ Failure WrittenFiles::Replace(const FolderLock& lock, std::string_view file, std
     }
     // Some file systems cannot flush a folder and need not.
     if (system_.Flush(lock.Folder()) == -1 && errno != EINVAL) {
-        return Error(file, "is written, but the disk does not confirm it", errno);
+        return SystemError(file, "is written, but the disk does not confirm it", errno);
     }
     return std::nullopt;
 }
@@ -150,21 +177,53 @@ Failure WrittenFiles::Replace(const FolderLock& lock, std::string_view file, std
 Result<std::string> WrittenFiles::KeepAside(const FolderLock& lock, std::string_view file) const
 {
     const fs::path path = folder_.WritePath(file);
-    if (!Exists(path)) {
+    const Result<bool> there = Exists(path, file);
+    if (!there) {
+        return there.Error();
+    }
+    if (!*there) {
         return std::string();
     }
     int number = 1;
-    while (Exists(folder_.WritePath(AsideName(file, number)))) {
-        ++number;
-    }
-    const std::string name = AsideName(file, number);
-    if (system_.Rename(path.c_str(), folder_.WritePath(name).c_str()) == -1) {
-        return Error(file, "cannot be given another name", errno);
+    std::string name = AsideName(file, number);
+    while (system_.RenameToNew(path.c_str(), folder_.WritePath(name).c_str()) == -1) {
+        if (errno != EEXIST) {
+            return SystemError(file, "cannot be given another name", errno);
+        }
+        name = AsideName(file, ++number);
     }
     if (system_.Flush(lock.Folder()) == -1 && errno != EINVAL) {
-        return Error(file, "has another name, but the disk does not confirm it", errno);
+        return SystemError(file, "has another name, but the disk does not confirm it", errno);
     }
     return name;
+}
+
+Failure WrittenFiles::Remove(const FolderLock& lock, std::string_view file) const
+{
+    if (system_.Remove(folder_.WritePath(file).c_str()) == -1) {
+        return errno == ENOENT ? Failure() : SystemError(file, "cannot be removed", errno);
+    }
+    system_.Flush(lock.Folder());
+    return std::nullopt;
+}
+
+void WrittenFiles::Tidy(std::span<const std::string> files) const
+{
+    for (const std::string& file : files) {
+        const fs::path left = Beside(folder_.WritePath(file));
+        struct stat found {};
+        if (system_.Look(left.c_str(), found) == -1) {
+            continue;
+        }
+        const int folder = system_.Open(left.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+        if (folder == -1) {
+            continue;
+        }
+        const FolderLock lock(system_, folder);
+        if (system_.Lock(folder) == 0 || KnowsNoLocks(errno)) {
+            system_.Remove(left.c_str());
+        }
+    }
 }
 
 }  // namespace files

@@ -17,6 +17,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -55,17 +56,28 @@ class WrittenFiles {
 public:
     WrittenFiles(const ProgramFolder& folder, SystemCalls& system) : folder_(folder), system_(system) {}
 
-    bool Has(std::string_view file) const;
+    // Absent is what the system says is absent. Every other reason why it cannot be found is an error, and then
+    // nothing may be written in its place.
+    Result<bool> Has(std::string_view file) const;
     Result<std::vector<Item>> Read(std::string_view file) const;
+    Result<std::string> ReadWhole(std::string_view file) const;
 
-    // Of the folder in which the file is written; it is made where it is missing.
+    // Of the folder in which the file is written; it is made where it is missing. The program folder itself is
+    // not: one that has vanished was moved or unplugged, and its files with it.
     Result<FolderLock> Lock(std::string_view file) const;
     Failure Replace(const FolderLock& lock, std::string_view file, std::string_view content) const;
-    // Gives a file that cannot be read another name, for whoever can; returns that name. Only a file that the
-    // game would write over is kept so: a shipped one that lies elsewhere gives the empty name.
+    // Gives a file whose content is wrong another name, for whoever can read it; returns that name. Only a file
+    // that the game would write over is kept so: a shipped one that lies elsewhere gives the empty name.
     Result<std::string> KeepAside(const FolderLock& lock, std::string_view file) const;
+    Failure Remove(const FolderLock& lock, std::string_view file) const;  // also when there is none
+
+    // At the program's start: removes what a killed game left beside these files, unless another game is just
+    // writing. Tells nobody, for nothing is lost.
+    void Tidy(std::span<const std::string> files) const;
 
 private:
+    Result<bool> Exists(const std::filesystem::path& path, std::string_view file) const;
+    Result<std::filesystem::path> Place(std::string_view file) const;
     Failure MakeFolders(const std::filesystem::path& folder, std::string_view file) const;
     Failure WriteBeside(const std::filesystem::path& path, std::string_view file,
                         std::string_view content) const;

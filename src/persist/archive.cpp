@@ -1,5 +1,6 @@
 #include "persist/archive.h"
 
+#include "files/checksum.h"
 #include "persist/found.h"
 
 #include <utility>
@@ -17,7 +18,7 @@ std::string SlotFile(std::int64_t slot)
 
 }  // namespace
 
-bool Archive::Used(std::int64_t slot) const
+files::Result<bool> Archive::Used(std::int64_t slot) const
 {
     return files_.Has(SlotFile(slot));
 }
@@ -26,7 +27,14 @@ files::Failure Archive::Save(std::int64_t slot, const core::GameState& state) co
 {
     const std::string file = SlotFile(slot);
     const files::Result<files::FolderLock> lock = files_.Lock(file);
-    return lock ? files_.Replace(*lock, file, WriteSavedGame(state)) : lock.Error();
+    return lock ? files::ReplaceChecked(files_, *lock, file, WriteSavedGame(state)) : lock.Error();
+}
+
+bool Archive::Altered(std::int64_t slot) const
+{
+    const std::string file = SlotFile(slot);
+    const files::Result<std::string> content = files_.ReadWhole(file);
+    return content && !files::Agrees(files_, file, *content);
 }
 
 files::Result<core::GameState> Archive::Load(std::int64_t slot, const core::GameState& state) const
@@ -41,7 +49,11 @@ files::Result<core::GameState> Archive::Load(std::int64_t slot, const core::Game
 
 files::Result<std::optional<SlotNames>> Archive::Names() const
 {
-    if (!files_.Has(kNames)) {
+    const files::Result<bool> there = files_.Has(kNames);
+    if (!there) {
+        return there.Error();
+    }
+    if (!*there) {
         return std::optional<SlotNames>();
     }
     const files::Result<std::vector<files::Item>> items = files_.Read(kNames);
@@ -67,15 +79,19 @@ files::Result<std::optional<SlotNames>> Archive::Names() const
 
 files::Failure Archive::Prepare() const
 {
-    if (files_.Has(kNames)) {
-        return std::nullopt;
+    const auto there = [this] { return files_.Has(kNames); };
+    if (const files::Result<bool> before = there(); !before || *before) {
+        return before ? files::Failure() : before.Error();
     }
     const files::Result<files::FolderLock> lock = files_.Lock(kNames);
     if (!lock) {
         return lock.Error();
     }
     // Another game may have been quicker.
-    return files_.Has(kNames) ? std::nullopt : files_.Replace(*lock, kNames, "");
+    if (const files::Result<bool> now = there(); !now || *now) {
+        return now ? files::Failure() : now.Error();
+    }
+    return files_.Replace(*lock, kNames, "");
 }
 
 files::Failure Archive::SaveNames(const SlotNames& before, const SlotNames& now, std::int64_t slot) const
@@ -92,6 +108,9 @@ files::Failure Archive::SaveNames(const SlotNames& before, const SlotNames& now,
             names[i] = ours ? now[i] : (**present)[i];
         }
     } else if (!present) {
+        if (present.Error().fault == files::FileError::Fault::System) {
+            return present.Error();
+        }
         if (const files::Result<std::string> aside = files_.KeepAside(*lock, kNames); !aside) {
             return aside.Error();
         }
@@ -102,6 +121,16 @@ files::Failure Archive::SaveNames(const SlotNames& before, const SlotNames& now,
         content += files::kLineEnd;
     }
     return files_.Replace(*lock, kNames, content);
+}
+
+std::vector<std::string> Archive::Files()
+{
+    std::vector<std::string> names{std::string(kNames)};
+    for (std::int64_t slot = 1; slot <= kSlots; ++slot) {
+        names.push_back(SlotFile(slot));
+        names.push_back(files::SumFile(names.back()));
+    }
+    return names;
 }
 
 }  // namespace persist

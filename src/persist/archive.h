@@ -11,6 +11,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace persist {
 
@@ -21,10 +22,13 @@ class Archive {
 public:
     explicit Archive(const files::WrittenFiles& files) : files_(files) {}
 
-    bool Used(std::int64_t slot) const;  // 1..5
+    files::Result<bool> Used(std::int64_t slot) const;  // 1..5
     files::Failure Save(std::int64_t slot, const core::GameState& state) const;
     // What is not saved is taken from `state`.
     files::Result<core::GameState> Load(std::int64_t slot, const core::GameState& state) const;
+    // Whether the slot holds something else than the game wrote there. Such a game may well be whole, and what a
+    // player edits is his own affair; he only ought to know.
+    bool Altered(std::int64_t slot) const;
 
     // None where no names were given yet.
     files::Result<std::optional<SlotNames>> Names() const;
@@ -33,6 +37,9 @@ public:
     // Writes the names. Another game may have named its own slot since this one read them (`before`): what was
     // not changed here stays as it is in the file. A file that cannot be read is kept under another name.
     files::Failure SaveNames(const SlotNames& before, const SlotNames& now, std::int64_t slot) const;
+
+    // Every file that the archive writes.
+    static std::vector<std::string> Files();
 
 private:
     const files::WrittenFiles& files_;

@@ -34,7 +34,7 @@ std::optional<files::FileError> WrongCount(std::string_view file, const std::vec
     const int line = items.size() < expected ? (items.empty() ? 0 : items.back().line) : items[expected].line;
     return files::FileError{std::string(file), line,
                             "expected " + std::to_string(expected) + " records, found " +
-                                std::to_string(items.size())};
+                                (items.empty() ? "an empty file" : std::to_string(items.size()))};
 }
 
 }  // namespace persist

@@ -1,5 +1,7 @@
 #include "persist/hall_file.h"
 
+#include "files/checksum.h"
+
 namespace persist {
 
 namespace {
@@ -16,7 +18,11 @@ std::string NotWritten(const files::FileError& error)
 
 files::Result<Hall> HallOfFame::Read() const
 {
-    if (!files_.Has(kFile)) {
+    const files::Result<bool> there = files_.Has(kFile);
+    if (!there) {
+        return there.Error();
+    }
+    if (!*there) {
         return FreshHall();
     }
     const files::Result<std::vector<files::Item>> items = files_.Read(kFile);
@@ -24,6 +30,17 @@ files::Result<Hall> HallOfFame::Read() const
         return items.Error();
     }
     return ReadHall(*items, kFile);
+}
+
+bool HallOfFame::Altered() const
+{
+    const files::Result<std::string> content = files_.ReadWhole(kFile);
+    return content && !files::Agrees(files_, kFile, *content);
+}
+
+std::vector<std::string> HallOfFame::Files()
+{
+    return {std::string(kFile), files::SumFile(kFile)};
 }
 
 // The list, or a fresh one when it could not be read and was put aside. Where that fails too, the unreadable
@@ -35,9 +52,14 @@ Hall HallOfFame::ReadOrBegin(const files::FolderLock& lock, std::string& trouble
     if (hall) {
         return *hall;
     }
+    trouble = "Mr.President, the old list cannot be read. " + hall.Error().Message() + ". ";
+    if (hall.Error().fault == files::FileError::Fault::System) {
+        mayWrite = false;
+        trouble += "It may well be in order, so nothing was written.";
+        return FreshHall();
+    }
     const files::Result<std::string> aside = files_.KeepAside(lock, kFile);
     mayWrite = static_cast<bool>(aside);
-    trouble = "Mr.President, the old list cannot be read. " + hall.Error().Message() + ". ";
     if (!aside) {
         trouble += aside.Error().Message() + ", so it lies where it lay and nothing was written.";
         return FreshHall();
@@ -63,7 +85,8 @@ HallReport HallOfFame::Enter(const HallEntry& entry, bool dead) const
     report.hall = ReadOrBegin(*lock, report.trouble, mayWrite);
     persist::Enter(report.hall, entry, dead);
     if (mayWrite) {
-        if (const files::Failure failure = files_.Replace(*lock, kFile, WriteHall(report.hall))) {
+        if (const files::Failure failure =
+                files::ReplaceChecked(files_, *lock, kFile, WriteHall(report.hall))) {
             report.trouble = NotWritten(*failure);
         }
     }

@@ -12,6 +12,7 @@
 #include "persist/hall_of_fame.h"
 
 #include <string>
+#include <vector>
 
 namespace persist {
 
@@ -26,8 +27,13 @@ public:
 
     // The list as it is; where there is no file yet, a fresh one.
     files::Result<Hall> Read() const;
+    // Whether somebody else has written in the list. It is shown and kept all the same.
+    bool Altered() const;
     // The list with the entry in its place, written.
     HallReport Enter(const HallEntry& entry, bool dead) const;
+
+    // Every file that the hall writes.
+    static std::vector<std::string> Files();
 
 private:
     Hall ReadOrBegin(const files::FolderLock& lock, std::string& trouble, bool& mayWrite) const;

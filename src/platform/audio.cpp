@@ -1,5 +1,6 @@
 #include "platform/audio.h"
 
+#include "files/whole_file.h"
 #include "platform/quiet.h"
 
 #include <SDL2/SDL.h>
@@ -65,7 +66,8 @@ Mix_Chunk* Audio::Load(const std::string& file)
     if (const auto known = kept_.find(file); known != kept_.end()) {
         return known->second.get();
     }
-    SDL_RWops* source = SDL_RWFromFile(folder_.Path(file).c_str(), "rb");
+    const std::filesystem::path path = folder_.Path(file);
+    SDL_RWops* source = files::IsRegularFile(path) ? SDL_RWFromFile(path.c_str(), "rb") : nullptr;
     Chunk chunk(source == nullptr ? nullptr : mixer_->loadWave(source, 1));
     if (!chunk) {
         return nullptr;

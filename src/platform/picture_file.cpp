@@ -1,5 +1,7 @@
 #include "platform/picture_file.h"
 
+#include "files/whole_file.h"
+
 #include <SDL2/SDL_endian.h>
 #include <SDL2/SDL_error.h>
 #include <SDL2/SDL_rwops.h>
@@ -7,6 +9,7 @@
 
 #include <array>
 #include <cstring>
+#include <system_error>
 
 namespace platform {
 
@@ -75,6 +78,11 @@ PictureSurface ReadPng(const std::filesystem::path& file)
 
 std::optional<Head> ReadHead(const std::filesystem::path& file)
 {
+    std::error_code error;
+    if (std::filesystem::exists(file, error) && !files::IsRegularFile(file)) {
+        SDL_SetError("expected a picture, found a folder, a pipe or a device");
+        return std::nullopt;
+    }
     SDL_RWops* source = SDL_RWFromFile(file.c_str(), "rb");
     if (source == nullptr) {
         return std::nullopt;

@@ -128,7 +128,7 @@ int Run(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& host, const 
     }
     desktop.getClipboard = {};
     desktop.setClipboard = {};
-    return EXIT_SUCCESS;
+    return Signals::ExitStatus();
 }
 
 }  // namespace platform

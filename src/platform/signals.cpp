@@ -1,6 +1,7 @@
 #include "platform/signals.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <array>
@@ -14,15 +15,16 @@ namespace {
 constexpr std::array kWatched{SIGTERM, SIGINT, SIGHUP};
 constexpr int kSignalStatus = 128;  // as the shell counts
 constexpr char kStop = 0;
+constexpr int kPatience = 700;  // milliseconds from the signal to the end
 
 // A handler may do little more than write to a pipe; the thread at its other end does the rest.
 int signalPipe[2] = {-1, -1};
-std::atomic<bool> signalled = false;
-static_assert(std::atomic<bool>::is_always_lock_free);
+std::atomic<int> signalled = 0;  // its number
+static_assert(std::atomic<int>::is_always_lock_free);
 
 extern "C" void OnSignal(int number)
 {
-    if (signalled.exchange(true)) {
+    if (signalled.exchange(number) != 0) {
         _exit(kSignalStatus + number);
     }
     const char byte = static_cast<char>(number);
@@ -54,10 +56,20 @@ Signals::Signals(const std::function<void()>& onSignal)
         char byte = kStop;
         while (read(signalPipe[0], &byte, 1) == 1 && byte != kStop) {
             onSignal();
+            pollfd stopped{.fd = signalPipe[0], .events = POLLIN, .revents = 0};
+            if (poll(&stopped, 1, kPatience) == 0) {
+                _exit(kSignalStatus + byte);
+            }
         }
     });
-    signalled = false;
+    signalled = 0;
     SetHandlers(OnSignal);
+}
+
+int Signals::ExitStatus()
+{
+    const int number = signalled;
+    return number == 0 ? 0 : kSignalStatus + number;
 }
 
 Signals::~Signals()

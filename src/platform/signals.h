@@ -2,8 +2,9 @@
 //
 //     const Signals signals([] { ... });      // called in a thread of its own; push an event there
 //
-// A second signal does not wait for the game any more and ends the program at once. A signal that was
-// ignored when the program started (nohup) stays ignored.
+// A game that has not ended some time later (it waits for a disk that does not answer, say) is ended as it
+// stands: what it writes is whole at every moment. A second signal ends it at once. The program's status is then
+// 128 and the signal's number. A signal that was ignored when the program started (nohup) stays ignored.
 #pragma once
 
 #include <functional>
@@ -17,6 +18,9 @@ public:
     ~Signals();
     Signals(const Signals&) = delete;
     Signals& operator=(const Signals&) = delete;
+
+    // 0 while none came, else what the program ends with.
+    static int ExitStatus();
 
 private:
     std::thread watcher_;

@@ -19,9 +19,13 @@ void Hall::TopTen()
 {
     state_.HallShown = 1;
     screens_.frmTop102.Show();
+    const bool altered = hall_.Altered();
     const persist::HallReport report = hall_.Enter(persist::EntryOf(state_), state_.Dead == 1);
     ShowList(report.hall);
     ShowTrouble(report.trouble);
+    if (altered && report.trouble.empty()) {
+        TellAltered();
+    }
 }
 
 void Hall::See()
@@ -35,6 +39,9 @@ void Hall::See()
     screens_.frmTop102.Show();
     ShowList(*list);
     ShowTrouble({});
+    if (hall_.Altered()) {
+        TellAltered();
+    }
 }
 
 void Hall::ShowList(const persist::Hall& list)
@@ -42,6 +49,15 @@ void Hall::ShowList(const persist::Hall& list)
     for (int i = 0; i < screens::kHallRows; ++i) {
         screens_.frmTop102.Label1[i].SetText(persist::Sentence(list[static_cast<std::size_t>(i)], format_));
     }
+}
+
+// Only a remark: the list counts as it stands.
+void Hall::TellAltered()
+{
+    screens_.frmTop102.Label3.SetText(
+        "Somebody else has written in this list. We thank him for the interest.");
+    screens_.frmTop102.Label3.SetVisible(true);
+    screens_.frmTop102.Label6.SetVisible(false);
 }
 
 void Hall::ShowTrouble(const std::string& trouble)

@@ -25,6 +25,7 @@ public:
 
 private:
     void ShowList(const persist::Hall& list);
+    void TellAltered();
     void ShowTrouble(const std::string& trouble);
 
     core::GameState& state_;

@@ -12,6 +12,8 @@ namespace {
 constexpr std::string_view kNoSlot =
     "Mr.President, the archive has five slots and waits until you point at one. Nothing was ";
 
+constexpr std::string_view kAltered = "The archive remembers it otherwise. Load it all the same?";
+
 std::string EmptySlot(std::int64_t slot)
 {
     return "Mr.President, slot " + core::Digits(slot) +
@@ -73,12 +75,15 @@ void SavedGames::BindLoad()
         form.options[i]->onClick = [this, i] {
             sound_.SoundClick();
             state_.SaveSlot = static_cast<std::int64_t>(i) + 1;
+            AskWhetherToLoad(false);
         };
     }
     form.Command1.onClick = [this] {
         sound_.SoundClick();
-        Load();
-        screens_.frmLoad.Unload();
+        if (!LoadWantsAnotherPress()) {
+            Load();
+            screens_.frmLoad.Unload();
+        }
     };
     form.Command2.onClick = [this] {
         sound_.SoundClick();
@@ -156,11 +161,18 @@ void SavedGames::AskAgain(bool ask)
     form.defaultButton = ask ? nullptr : &form.Command1;
 }
 
+// What cannot be looked at may hold one.
+bool SavedGames::MayHoldAGame(std::int64_t slot) const
+{
+    const files::Result<bool> used = archive_.Used(slot);
+    return !used || *used;
+}
+
 // The game first, its name behind it: a name must never promise a game that is not there.
 void SavedGames::SaveUnderName()
 {
     sound_.SoundClick();
-    if (!asked_ && SlotChosen() && archive_.Used(state_.SaveSlot)) {
+    if (!asked_ && SlotChosen() && MayHoldAGame(state_.SaveSlot)) {
         AskAgain(true);
         desktop_.SetFocus(screens_.frmSave.names.at(static_cast<std::size_t>(state_.SaveSlot - 1)));
         return;
@@ -184,15 +196,36 @@ bool SavedGames::WriteGame()
         core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "saved.");
         return false;
     }
-    const files::Failure failure = archive_.Save(state_.SaveSlot, state_);
+    const files::Result<bool> used = archive_.Used(state_.SaveSlot);
+    const files::Failure failure = used ? archive_.Save(state_.SaveSlot, state_) : used.Error();
     if (failure) {
         core::Say(screens_.frmMonthBanner, NotSaved(*failure));
     }
     return !failure;
 }
 
+void SavedGames::AskWhetherToLoad(bool ask)
+{
+    screens::FrmLoad& form = screens_.frmLoad;
+    askedToLoad_ = ask;
+    form.Label2.SetText(ask ? kAltered : std::string_view());
+    form.defaultButton = ask ? nullptr : &form.Command1;
+}
+
+// A game that somebody else has written in is loaded only by a second press, which a key held down does not give.
+bool SavedGames::LoadWantsAnotherPress()
+{
+    if (askedToLoad_ || !SlotChosen() || !archive_.Altered(state_.SaveSlot)) {
+        return false;
+    }
+    AskWhetherToLoad(true);
+    desktop_.SetFocus(screens_.frmLoad.options.at(static_cast<std::size_t>(state_.SaveSlot - 1)));
+    return true;
+}
+
 void SavedGames::ProLoad()
 {
+    AskWhetherToLoad(false);
     Open(screens_.frmLoad);
 }
 
@@ -202,7 +235,8 @@ void SavedGames::Load()
         core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "loaded.");
         return;
     }
-    if (!archive_.Used(state_.SaveSlot)) {
+    const files::Result<bool> used = archive_.Used(state_.SaveSlot);
+    if (used && !*used) {
         core::Say(screens_.frmMonthBanner, EmptySlot(state_.SaveSlot));
         return;
     }

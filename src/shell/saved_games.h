@@ -32,6 +32,9 @@ private:
     void SaveUnderName();
     void AskAgain(bool ask);
     bool WriteGame();
+    bool MayHoldAGame(std::int64_t slot) const;
+    void AskWhetherToLoad(bool ask);
+    bool LoadWantsAnotherPress();
     bool SlotChosen() const;
     persist::SlotNames Typed() const;
 
@@ -43,6 +46,7 @@ private:
     const core::NumberFormat& format_;
     persist::SlotNames namesBefore_;  // as they were when the save screen was opened
     bool asked_ = false;              // whether the player knows that he writes over a game
+    bool askedToLoad_ = false;        // whether he knows that somebody has written in the one he loads
 };
 
 }  // namespace shell

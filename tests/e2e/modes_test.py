@@ -32,9 +32,9 @@ class Modes(stage.Case):
             ("the window is closed", lambda game, _: self.ask_to_close(game), 0),
             ("the window is destroyed", lambda game, _: game.hands("windowclose", game.window()), 0),
             ("the connection is cut", lambda game, _: game.hands("windowkill", game.window()), 1),
-            ("SIGTERM", lambda game, _: game.process.send_signal(signal.SIGTERM), 0),
-            ("SIGINT", lambda game, _: game.process.send_signal(signal.SIGINT), 0),
-            ("SIGHUP", lambda game, _: game.process.send_signal(signal.SIGHUP), 0),
+            ("SIGTERM", lambda game, _: game.process.send_signal(signal.SIGTERM), 128 + signal.SIGTERM),
+            ("SIGINT", lambda game, _: game.process.send_signal(signal.SIGINT), 128 + signal.SIGINT),
+            ("SIGHUP", lambda game, _: game.process.send_signal(signal.SIGHUP), 128 + signal.SIGHUP),
             ("SIGKILL", lambda game, _: game.process.send_signal(signal.SIGKILL), -signal.SIGKILL),
             ("abort", lambda game, _: game.process.send_signal(signal.SIGABRT), -signal.SIGABRT),
         )

@@ -173,6 +173,7 @@ TEST(ActionCards, ThatAreBrokenChangeNothing)
         {"missing", nullptr, "Actions/7: cannot be read"},
         {"too short for the screen", "1,2,3", "expected 22 items, found 3"},
         {"without its last text", "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,\"a\",\"b\"", "found 21"},
+        {"with a line too many", "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0\n0,\"a\",\"b\",\"c\"", "found 23"},
         {"a text for a number", "0,0,much,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,\"a\",\"b\",\"c\"",
          "item 3, the strength of the Businessmen: expected a number, found \"much\""},
     };

@@ -172,6 +172,39 @@ TEST_F(ArchiveScreens, TellWhatIsMissing)
     EXPECT_THAT(game_.Banner(), HasSubstr("slot 3 is empty"));
 }
 
+// What the archive remembers otherwise is loaded by a second press only, and by its routine at once.
+TEST_F(ArchiveScreens, AskBeforeAGameIsLoadedThatSomebodyHasWrittenIn)
+{
+    const auto edit = [this] {
+        std::string game = game_.folder.Read("Save/Save2");
+        game_.folder.Write("Save/Save2", game.replace(0, game.find('\r'), "77"));
+    };
+    Save(2, "mine");
+    edit();
+    OpenLoad();
+    game_.Click("frmLoad.Option2");
+    game_.Click("frmLoad.Command1");
+    EXPECT_EQ(game_.Text("frmLoad.Label2"), "The archive remembers it otherwise. Load it all the same?");
+    game_.Press(ui::Key::Return);
+    EXPECT_TRUE(game_.Shown("frmLoad")) << "a key held down loaded it";
+    game_.Click("frmLoad.Option3");
+    EXPECT_EQ(game_.Text("frmLoad.Label2"), "") << "another slot";
+    game_.Click("frmLoad.Option2");
+    game_.Click("frmLoad.Command1");
+    game_.Click("frmLoad.Command1");
+    EXPECT_TRUE(game_.Shown("frmGameLoaded"));
+    game_.Expect({{"Strength[Workers]", 77}});
+
+    game_.Set({{"Strength[Workers]", 1}});
+    game_.Call("Load");
+    game_.Expect({{"Strength[Workers]", 77}});
+    game_.Set({{"Strength[Workers]", 1}});
+    game_.folder.Remove("Save/Save2.sum");
+    OpenLoad();
+    game_.Click("frmLoad.Command1");
+    game_.Expect({{"Strength[Workers]", 77}});
+}
+
 TEST_F(ArchiveScreens, KeepNamesThatCannotBeReadAndSaveAllTheSame)
 {
     game_.folder.Write("Save/names", "\"a\"\r\n\"b\"\r\n3\r\n");

@@ -8,6 +8,8 @@
 
 #include <csignal>
 
+#include <sys/stat.h>
+
 #include <cerrno>
 #include <string>
 #include <vector>
@@ -18,6 +20,7 @@ struct Fault {
     int at = 0;  // number of the call, 1 being the first; 0: none
     int reason = EIO;
     bool kill = false;
+    std::string call{};  // instead of a number: every call of this name
 };
 
 class FaultySystem : public files::SystemCalls {
@@ -36,6 +39,18 @@ public:
     int Open(const char* path, int flags, unsigned mode) override
     {
         return Fails("open") ? -1 : SystemCalls::Open(path, flags, mode);
+    }
+    int Look(const char* path, struct stat& found) override
+    {
+        return Fails("look") ? -1 : SystemCalls::Look(path, found);
+    }
+    int Describe(int file, struct stat& found) override
+    {
+        return Fails("describe") ? -1 : SystemCalls::Describe(file, found);
+    }
+    std::int64_t Read(int file, char* data, std::size_t size) override
+    {
+        return Fails("read") ? -1 : SystemCalls::Read(file, data, size);
     }
     // Half of it is written, as when the disk fills up in the middle.
     std::int64_t Write(int file, const char* data, std::size_t size) override
@@ -56,6 +71,10 @@ public:
     {
         return Fails("rename") ? -1 : SystemCalls::Rename(from, to);
     }
+    int RenameToNew(const char* from, const char* to) override
+    {
+        return Fails("rename to new") ? -1 : SystemCalls::RenameToNew(from, to);
+    }
     int Remove(const char* path) override { return Fails("remove") ? -1 : SystemCalls::Remove(path); }
     int MakeFolder(const char* path, unsigned mode) override
     {
@@ -70,7 +89,7 @@ private:
     bool Fails(const char* call)
     {
         calls.emplace_back(call);
-        if (static_cast<int>(calls.size()) != fault_.at) {
+        if (fault_.call.empty() ? static_cast<int>(calls.size()) != fault_.at : fault_.call != call) {
             return false;
         }
         if (fault_.kill) {
