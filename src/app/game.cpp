@@ -92,7 +92,9 @@ void Game::WireMonth()
 
 void Game::WireShell()
 {
-    opening_.loadGame = [this] { savedGames_.ProLoad(); };
+    opening_.loadGame = [this] { savedGames_.OpenFromStart(); };
+    savedGames_.beginGame = [this] { opening_.BeginGame(); };
+    savedGames_.backToStart = [this] { opening_.ShowStart(); };
     chiefs_.armyIn = [this] { intelligence_.ArmyIn(); };
 }
 

@@ -39,7 +39,8 @@ Opening::Opening(core::GameState& state, Screens screens, media::Sound& sound, m
     };
     screens.frmStart.Command4.onClick = [this] {
         sound_.SoundClick();
-        StartGame(loadGame);
+        screens_.frmStart.Hide();
+        loadGame();
     };
     screens.frmStart.Command2.onClick = [this] { StepLevel(); };
     screens.frmStart.Command3.onClick = [this] { Quit(); };
@@ -83,13 +84,18 @@ void Opening::StepLevel()
     screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
 }
 
-void Opening::StartGame(std::function<void()> afterwards)
+void Opening::StartGame()
+{
+    BeginGame();
+    screens_.frmName.ShowModal();
+}
+
+void Opening::BeginGame()
 {
     screens_.frmStart.Hide();
     screens_.frmMonthBanner.Show();
     screens_.frmMonthBanner.SetEnabled(false);
     screens_.frmMain.Show();
-    screens_.frmName.ShowModal(std::move(afterwards));
 }
 
 void Opening::TakeName()

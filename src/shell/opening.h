@@ -30,13 +30,15 @@ public:
     Opening(core::GameState& state, Screens screens, media::Sound& sound, media::Host& host, Display& display,
             Manual& manual);
 
-    std::function<void()> loadGame;  // what follows the name when a saved game shall be loaded
+    std::function<void()> loadGame;  // "Load Game": straight to the archive
 
     void ShowTitle();
     // The start screen, its level button naming the level that holds.
     void ShowStart();
-    // Begins a game at the chosen level; afterwards runs when the name has been given.
-    void StartGame(std::function<void()> afterwards = {});
+    // Begins a game at the chosen level and asks for the president's name.
+    void StartGame();
+    // The same for a game that is loaded, where nobody asks.
+    void BeginGame();
 
 private:
     void LeaveTitle();

@@ -59,6 +59,11 @@ void SavedGames::BindSave()
     screens::FrmSave& form = screens_.frmSave;
     for (std::size_t i = 0; i < form.options.size(); ++i) {
         form.options[i]->onClick = [this, i] { ChooseSaveSlot(i); };
+        form.names[i]->onClick = [this, i] {
+            if (!screens_.frmSave.options.at(i)->Now().chosen) {
+                ChooseSaveSlot(i);
+            }
+        };
     }
     form.Command1.onClick = [this] { SaveUnderName(); };
     form.Command2.onClick = [this] {
@@ -71,23 +76,76 @@ void SavedGames::BindLoad()
 {
     screens::FrmLoad& form = screens_.frmLoad;
     for (std::size_t i = 0; i < form.options.size(); ++i) {
-        form.options[i]->onClick = [this, i] {
-            sound_.SoundClick();
-            state_.SaveSlot = static_cast<std::int64_t>(i) + 1;
-            AskWhetherToLoad(false);
+        form.options[i]->onClick = [this, i] { ChooseLoadSlot(i); };
+        form.names[i]->onClick = [this, i] {
+            screens_.frmLoad.options.at(i)->SetChosen(true);
+            ChooseLoadSlot(i);
         };
     }
-    form.Command1.onClick = [this] {
-        sound_.SoundClick();
-        if (!LoadWantsAnotherPress()) {
-            Load();
-            screens_.frmLoad.Unload();
+    form.Command1.onClick = [this] { PressLoad(); };
+    form.Command2.onClick = [this] { CancelLoad(); };
+}
+
+void SavedGames::ChooseLoadSlot(std::size_t slot)
+{
+    sound_.SoundClick();
+    for (std::size_t i = 0; i < screens_.frmLoad.options.size(); ++i) {
+        screens_.frmLoad.options[i]->SetChosen(i == slot);
+    }
+    state_.SaveSlot = static_cast<std::int64_t>(slot) + 1;
+    AskWhetherToLoad(false);
+}
+
+// Whether the player has yet to point at a slot. He is told so where he looks, and the screen stays.
+bool SavedGames::TellToChoose(screens::SlotForm& form, std::string_view done)
+{
+    if (SlotChosen()) {
+        return false;
+    }
+    Warn(form, std::string(kNoSlot) + std::string(done));
+    return true;
+}
+
+void SavedGames::PressLoad()
+{
+    sound_.SoundClick();
+    if (TellToChoose(screens_.frmLoad, "loaded.") || LoadWantsAnotherPress()) {
+        return;
+    }
+    if (fromStart_) {
+        if (!CanBeLoaded()) {
+            return;
         }
-    };
-    form.Command2.onClick = [this] {
-        sound_.SoundClick();
-        screens_.frmLoad.Unload();
-    };
+        const auto slot = state_.SaveSlot;
+        beginGame();
+        state_.SaveSlot = slot;
+    }
+    Load();
+    screens_.frmLoad.Unload();
+}
+
+// From the start no game is begun for a file that cannot be read: the screen tells why and stays.
+bool SavedGames::CanBeLoaded()
+{
+    const files::Result<bool> used = archive_.Used(state_.SaveSlot);
+    if (used && !*used) {
+        Warn(screens_.frmLoad, EmptySlot(state_.SaveSlot));
+        return false;
+    }
+    if (const auto loaded = archive_.Load(state_.SaveSlot, state_); !loaded) {
+        Warn(screens_.frmLoad, NotLoaded(loaded.Error()));
+        return false;
+    }
+    return true;
+}
+
+void SavedGames::CancelLoad()
+{
+    sound_.SoundClick();
+    screens_.frmLoad.Unload();
+    if (fromStart_) {
+        backToStart();
+    }
 }
 
 bool SavedGames::SlotChosen() const
@@ -145,7 +203,9 @@ void SavedGames::ChooseSaveSlot(std::size_t slot)
     screens::FrmSave& form = screens_.frmSave;
     for (std::size_t i = 0; i < form.names.size(); ++i) {
         form.names[i]->SetEnabled(i == slot);
+        form.options[i]->SetChosen(i == slot);
     }
+    form.Label2.SetText("");
     state_.SaveSlot = static_cast<std::int64_t>(slot) + 1;
     AskAgain(false);
     desktop_.SetFocus(form.names[slot]);
@@ -171,7 +231,10 @@ bool SavedGames::MayHoldAGame(std::int64_t slot) const
 void SavedGames::SaveUnderName()
 {
     sound_.SoundClick();
-    if (!asked_ && SlotChosen() && MayHoldAGame(state_.SaveSlot)) {
+    if (TellToChoose(screens_.frmSave, "saved.")) {
+        return;
+    }
+    if (!asked_ && MayHoldAGame(state_.SaveSlot)) {
         AskAgain(true);
         desktop_.SetFocus(screens_.frmSave.names.at(static_cast<std::size_t>(state_.SaveSlot - 1)));
         return;
@@ -222,8 +285,15 @@ bool SavedGames::LoadWantsAnotherPress()
     return true;
 }
 
+void SavedGames::OpenFromStart()
+{
+    ProLoad();
+    fromStart_ = true;
+}
+
 void SavedGames::ProLoad()
 {
+    fromStart_ = false;
     AskWhetherToLoad(false);
     Open(screens_.frmLoad);
 }

@@ -12,6 +12,7 @@
 #include "ui/screens/frm_save.h"
 #include "ui/toolkit/desktop.h"
 
+#include <functional>
 #include <string_view>
 
 namespace shell {
@@ -27,6 +28,11 @@ public:
     SavedGames(core::GameState& state, ui::Desktop& desktop, Screens screens, media::Sound& sound,
                const files::WrittenFiles& files, const core::NumberFormat& format);
 
+    std::function<void()> beginGame;    // what a game needs that is loaded from the start screen
+    std::function<void()> backToStart;  // where "Cancel" leads from there
+
+    void OpenFromStart();  // the load screen, before there is a game
+
     void ProSave();  // opens the save screen
     void save();     // the game into the chosen slot
     void ProLoad();  // opens the load screen
@@ -41,6 +47,11 @@ private:
     void SaveUnderName();
     void AskAgain(bool ask);
     bool WriteGame();
+    void PressLoad();
+    void CancelLoad();
+    void ChooseLoadSlot(std::size_t slot);
+    bool TellToChoose(screens::SlotForm& form, std::string_view done);
+    bool CanBeLoaded();
     bool MayHoldAGame(std::int64_t slot) const;
     void AskWhetherToLoad(bool ask);
     bool LoadWantsAnotherPress();
@@ -55,6 +66,7 @@ private:
     const core::NumberFormat& format_;
     persist::SlotNames namesBefore_;  // as they were when the save screen was opened
     bool asked_ = false;              // whether the player knows that he writes over a game
+    bool fromStart_ = false;          // whether the load screen stands where no game is yet
     bool askedToLoad_ = false;        // whether he knows that somebody has written in the one he loads
 };
 

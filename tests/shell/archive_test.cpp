@@ -164,7 +164,7 @@ TEST_F(ArchiveScreens, TellWhatIsMissing)
         const core::GameState before = game_.State();
         game_.Click(c.button);
         EXPECT_THAT(game_.Banner(), AllOf(StartsWith("Mr.President, "), HasSubstr(c.told)));
-        EXPECT_THAT(game_.Front(), ElementsAre("frmMain", "frmMonthBanner"));
+        EXPECT_EQ(game_.Shown(load ? "frmLoad" : "frmSave"), c.slot == 0) << "stays until a slot is chosen";
         EXPECT_EQ(core::FirstDifference(before, game_.State()), "");
     }
     game_.folder.Remove("Save");
@@ -236,17 +236,39 @@ TEST_F(ArchiveScreens, LeaveTheNamesThatAnotherGameGives)
     EXPECT_THAT(Names("frmLoad"), ElementsAre("one", "two", "mine", "four", "mine too"));
 }
 
-TEST_F(ArchiveScreens, OpenAfterTheNameWhenLoadedFromTheStart)
+TEST_F(ArchiveScreens, OpenStraightFromTheStartAndLeadBack)
 {
+    game_.Set({{"Money", 4321}});
     Save(5, "later");
+    game_.folder.Write("Save/Save4", "broken\r\n");
     game_.Click("frmMain.Label5(5)");
     game_.Click("frmOptions.Label5(0)");
     game_.Click("frmlogo");
     game_.Click("frmStart.Command4");
-    EXPECT_THAT(game_.Front(), ElementsAre("frmName", "frmMain", "frmMonthBanner"));
-    game_.Click("frmName.Command3");
-    EXPECT_THAT(game_.Front(), ElementsAre("frmLoad", "frmMain", "frmMonthBanner"));
+    EXPECT_FALSE(game_.Shown("frmName"));
+    EXPECT_FALSE(game_.Shown("frmStart"));
     EXPECT_EQ(game_.Text("frmLoad.Text5"), "later");
+    const std::pair<const char*, const char*> refused[] = {
+        {"", "until you point at one. Nothing was loaded."},
+        {"frmLoad.Text3", "slot 3 is empty"},
+        {"frmLoad.Option4", "Save/Save4, line 1: expected a number"},
+    };
+    for (const auto& [choice, told] : refused) {
+        SCOPED_TRACE(told);
+        if (*choice != '\0') {
+            game_.Click(choice);
+        }
+        game_.Click("frmLoad.Command1");
+        EXPECT_THAT(game_.Text("frmLoad.Label2"), HasSubstr(told));
+        EXPECT_FALSE(game_.Shown("frmMain")) << "a game was begun for it";
+    }
+    game_.Click("frmLoad.Command2");
+    EXPECT_TRUE(game_.Shown("frmStart"));
+    game_.Click("frmStart.Command4");
+    game_.Click("frmLoad.Text5");
+    game_.Click("frmLoad.Command1");
+    EXPECT_THAT(game_.Front(), ElementsAre("frmGameLoaded", "frmMain", "frmMonthBanner"));
+    game_.Expect({{"Money", 4321}, {"SaveSlot", 5}});
 }
 
 // Each call to the system fails once while the player saves over an older game.
