@@ -60,6 +60,7 @@ int EventLoop::Patience() const
 
 void EventLoop::Show()
 {
+    desktop_.Refresh();
     if (!window_.Renewed() && !desktop_.Dirty()) {
         return;
     }

@@ -44,6 +44,20 @@ Json ListControl(const ui::Control& control)
     return listed;
 }
 
+Json ListForm(const ui::Form& form)
+{
+    Json controls = Json::array();
+    for (const ui::Control* control : form.Controls()) {
+        controls.push_back(ListControl(*control));
+    }
+    Json listed{{"name", form.Name()}, {"modal", form.Modal()}, {"enabled", form.Enabled()}};
+    if (form.GetDesign().own) {
+        listed["own"] = true;
+    }
+    listed["controls"] = std::move(controls);
+    return listed;
+}
+
 }  // namespace
 
 std::string Hex(ui::Color color)
@@ -59,18 +73,19 @@ std::string Hex(ui::Color color)
 
 Json ListScreens(const ui::Desktop& desktop)
 {
+    const auto& shown = desktop.Shown();
     Json forms = Json::array();
-    for (auto it = desktop.Shown().rbegin(); it != desktop.Shown().rend(); ++it) {
-        const ui::Form& form = **it;
-        Json controls = Json::array();
-        for (const ui::Control* control : form.Controls()) {
-            controls.push_back(ListControl(*control));
+    const auto list = [&](const auto& wanted) {
+        for (auto it = shown.rbegin(); it != shown.rend(); ++it) {
+            if (wanted((*it)->GetDesign())) {
+                forms.push_back(ListForm(**it));
+            }
         }
-        forms.push_back({{"name", form.Name()},
-                         {"modal", form.Modal()},
-                         {"enabled", form.Enabled()},
-                         {"controls", std::move(controls)}});
-    }
+    };
+    using Design = ui::Form::Design;
+    list([](const Design& each) { return !each.own && !each.backdrop; });
+    list([](const Design& each) { return each.own; });
+    list([](const Design& each) { return each.backdrop; });
     return forms;
 }
 

@@ -12,9 +12,11 @@
 
 namespace console {
 
-std::string Hex(ui::Color color);              // "F3E7C9"
-Json ListScreens(const ui::Desktop& desktop);  // the shown ones, the front one first
-Json ListTimers(const ui::Desktop& desktop);   // the armed ones: milliseconds left
+std::string Hex(ui::Color color);  // "F3E7C9"
+// The shown ones, the front one first. Own screens come behind those that a player must know and before the
+// backdrop, so that who looks only at the first screen finds the one that waits for him.
+Json ListScreens(const ui::Desktop& desktop);
+Json ListTimers(const ui::Desktop& desktop);  // the armed ones: milliseconds left
 Json ValueOf(const core::Value& value);
 Json ListState(const core::GameState& state);  // every element by its name
 Json ListDraws(const std::vector<core::Chance::Drawn>& draws);

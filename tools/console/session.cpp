@@ -260,6 +260,7 @@ void Session::Set(Words& words, Json& /*reply*/)
         throw Refused(element.Name() + ": expected " + *expected + ", found " +
                       (std::holds_alternative<std::string>(value) ? Printed(ValueOf(value)) : word));
     }
+    Desktop().Touch();
 }
 
 void Session::Narration(Words& words, Json& /*reply*/)
@@ -300,6 +301,7 @@ void Session::Draws(Words& words, Json& /*reply*/)
 void Session::Screen(Words& words, Json& reply)
 {
     words.End();
+    Desktop().Refresh();
     reply["forms"] = ListScreens(Desktop());
 }
 
@@ -308,6 +310,7 @@ void Session::Text(Words& words, Json& reply)
 {
     const Target target = TakeTarget(words);
     words.End();
+    Desktop().Refresh();
     reply["text"] = target.control != nullptr ? target.control->Text() : target.form->GetDesign().caption;
 }
 
@@ -334,6 +337,7 @@ void Session::Spoken(Words& words, Json& reply)
 void Session::Read(Words& words, Json& reply)
 {
     words.End();
+    Desktop().Refresh();
     reply["lines"] = reading::ReadAll(Desktop());
 }
 
@@ -389,6 +393,7 @@ void Session::Shot(Words& words, Json& /*reply*/)
         height = std::clamp<std::int64_t>(words.Count("a height"), 1, kLargest);
     }
     words.End();
+    Desktop().Refresh();
     const auto pixels =
         Shoot(Desktop(), run_->game.Folder(), static_cast<int>(width), static_cast<int>(height));
     if (const auto problem = png::Write(file, pixels)) {

@@ -37,25 +37,56 @@ Form* Desktop::ModalForm() const
 Form* Desktop::FrontForm() const
 {
     for (auto it = shown_.rbegin(); it != shown_.rend(); ++it) {
-        if (TakesInput(**it)) {
+        if (TakesInput(**it) && !(*it)->GetDesign().fixture) {
             return *it;
         }
     }
     return nullptr;
 }
 
+// Somebody else's screen wants the place.
+void Desktop::PutOwnAway()
+{
+    for (std::size_t i = shown_.size(); i > 0; --i) {
+        Form& form = *shown_[i - 1];
+        if (form.GetDesign().own && !form.GetDesign().fixture) {
+            form.Hide();
+        }
+    }
+}
+
+void Desktop::Use(const Form& form)
+{
+    const Form::Design& design = form.GetDesign();
+    if (design.own && !design.fixture) {
+        return;
+    }
+    PutOwnAway();
+    if (!design.own && !design.backdrop) {
+        ++uses_;
+    }
+}
+
 void Desktop::BringToFront(Form& form)
 {
+    const Form::Design& design = form.GetDesign();
+    if (!design.own && !design.backdrop) {
+        PutOwnAway();
+    }
     shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
     auto place = shown_.end();
-    if (form.GetDesign().backdrop) {
+    if (design.backdrop) {
         place = shown_.begin();
+    } else if (design.fixture) {
+        place = std::find_if(shown_.begin(), shown_.end(),
+                             [](const Form* other) { return !other->GetDesign().backdrop; });
     } else if (!form.Modal()) {
         place = std::find_if(shown_.begin(), shown_.end(), [](const Form* other) { return other->Modal(); });
     }
     shown_.insert(place, &form);
     const bool hasFocus = focus_ != nullptr && &focus_->GetForm() == &form;
-    if (TakesInput(form) && !hasFocus) {
+    const bool wantsFocus = !design.own || form.initialFocus != nullptr;
+    if (wantsFocus && TakesInput(form) && !hasFocus) {
         SetFocus(form.initialFocus);
     }
 }
@@ -94,6 +125,7 @@ void Desktop::Dispatch(const std::function<void()>& event)
     };
     {
         const Running running(depth_);  // also when a handler throws
+        stale_ = true;
         event();
     }
     Settle();
@@ -148,6 +180,7 @@ Refusal Desktop::Refused(const Control& control) const
 
 void Desktop::Run(Control& control)
 {
+    Use(control.GetForm());
     if (control.GetKind() == Control::Kind::OptionButton) {
         for (Control* other : control.GetForm().Controls()) {
             if (other->GetKind() == Control::Kind::OptionButton) {
@@ -173,6 +206,9 @@ Refusal Desktop::Click(Form& form)
 {
     Refusal refusal = Refused(form);
     NoteInput();
+    if (!refusal) {
+        Use(form);
+    }
     if (!refusal && form.onClick) {
         Dispatch(form.onClick);
     }
@@ -309,6 +345,9 @@ void Desktop::PointerDown(Point at, int clicks, bool shift, const CaretAt& caret
     NoteInput();
     Form* form = FormAt(at);
     pressedForm_ = form != nullptr && TakesInput(*form) ? form : nullptr;
+    if (pressedForm_ == nullptr) {
+        PutOwnAway();  // a click beside everything
+    }
     Control* control = pressedForm_ == nullptr ? nullptr : ControlAt(*pressedForm_, at);
     if (control != nullptr && !control->Now().enabled) {
         pressedForm_ = nullptr;  // a disabled control swallows the click
@@ -397,6 +436,14 @@ void Desktop::Advance(std::int64_t milliseconds)
         FireNext(until, fired);
     }
     now_ = until;
+}
+
+void Desktop::Refresh()
+{
+    if (stale_ && onRefresh) {
+        onRefresh();
+    }
+    stale_ = false;
 }
 
 Rect Desktop::TakeDirty()

@@ -133,11 +133,23 @@ public:
     void Advance(std::int64_t milliseconds);
     std::optional<std::int64_t> NextDue() const;  // of the next armed timer
 
+    // Own screens follow the record only when somebody is about to look: a front end calls Refresh before it
+    // paints or lists, and nothing is computed while nothing happened. Who changes the record from outside says so.
+    std::function<void()> onRefresh;
+    void Refresh();
+    void Touch() { stale_ = true; }
+    // How often the player has used a screen that is not an own one.
+    std::uint64_t Uses() const { return uses_; }
+
     // Runs a routine as an event: what modal screens left to do afterwards is done before it returns.
     void Dispatch(const std::function<void()>& event);
 
     // Painting ------------------------------------------------------------------------------------
-    void MarkDirty(const Rect& rect) override { dirty_ = Union(dirty_, Intersection(rect, kSpace)); }
+    void MarkDirty(const Rect& rect) override
+    {
+        dirty_ = Union(dirty_, Intersection(rect, kSpace));
+        stale_ = true;
+    }
     bool Dirty() const { return !dirty_.Empty(); }
     Rect TakeDirty();
 
@@ -157,6 +169,8 @@ private:
     Form* FrontForm() const;
     void Run(Control& control);
     void NoteInput() const;
+    void Use(const Form& form);
+    void PutOwnAway();
     void SetHovered(Control* control);
     void SetPressed(Control* control);
     void SetKeyboardUsed(bool used);
@@ -180,6 +194,8 @@ private:
     Control* pressed_ = nullptr;
     Form* pressedForm_ = nullptr;
     bool keyboardUsed_ = false;
+    bool stale_ = true;
+    std::uint64_t uses_ = 0;
     std::int64_t now_ = 0;
     Rect dirty_ = kSpace;
     std::string ownClipboard_;

@@ -83,7 +83,7 @@ void Form::Load()
 void Form::Present(bool modal)
 {
     Load();
-    modal_ = modal;
+    modal_ = modal && !design_.own;
     visible_ = true;
     ++showings_;
     stage_.BringToFront(*this);

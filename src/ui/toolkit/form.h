@@ -33,6 +33,10 @@ public:
         bool backdrop = false;  // always behind all other screens
         bool asks = false;      // waits for an answer: a digit that was meant otherwise must not send it away
         int dims = 0;           // by how many percent the scene behind it is darkened while it is shown
+        // Stands beside the game: it disables nothing, refuses nothing and is never modal. It goes when another
+        // screen is used or comes, and takes the focus only when it names a control for it.
+        bool own = false;
+        bool fixture = false;  // an own screen that stays, right in front of the backdrop
     };
 
     Form(Stage& stage, const Design& design);
