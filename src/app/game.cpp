@@ -24,13 +24,14 @@ Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, 
     WireEvents();
     WireShell();
     WireKeys();
+    WireOffice();
     ListRoutines();
 }
 
 void Game::Start()
 {
     std::vector<std::string> written = persist::Archive::Files();
-    const std::vector<std::string> hall = persist::HallOfFame::Files();
+    const std::vector<std::string> hall = persist::HallFile::Files();
     written.insert(written.end(), hall.begin(), hall.end());
     written_.Tidy(written);
     opening_.ShowTitle();
@@ -141,6 +142,15 @@ void Game::WireKeys()
         }
         return false;
     };
+}
+
+void Game::WireOffice()
+{
+    desktop_.onRefresh = [this] {
+        slip_.Refresh();
+        strip_.Refresh();
+    };
+    hall_.onEntered = [this](int place, const std::string& points) { farewell_.Print(place, points); };
 }
 
 // A link of the chain that is called by its name goes on with those behind it.

@@ -32,6 +32,9 @@
 #include "month/month.h"
 #include "month/new_game.h"
 #include "office/backdrop.h"
+#include "office/farewell.h"
+#include "office/slip.h"
+#include "office/strip.h"
 #include "shell/army.h"
 #include "shell/display.h"
 #include "shell/hall.h"
@@ -88,6 +91,7 @@ private:
     void WireEvents();
     void WireShell();
     void WireKeys();
+    void WireOffice();
     void ListRoutines();
 
     media::Host& host_;
@@ -189,6 +193,10 @@ private:
 
     // The office behind everything.
     office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};
+    // What stands beside the game.
+    office::StatusStrip strip_{state_, desktop_, screens_, format_};
+    office::Slip slip_{state_, desktop_, screens_, format_};
+    office::Farewell farewell_{state_, journal_, screens_.frmFarewell, sound_, format_};
 
     std::map<std::string, std::function<void()>, std::less<>> routines_;
 };

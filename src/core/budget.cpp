@@ -4,13 +4,28 @@
 
 namespace core {
 
+namespace {
+
+std::int64_t TaxIncomeOf(const GameState& state, std::size_t faction)
+{
+    const std::int64_t income = state.IncomePerPerson[faction] * state.Population[faction];
+    return RoundHalfEven(static_cast<double>(income) / 100 *
+                         static_cast<double>(std::int64_t{state.TaxRate[faction]}));
+}
+
+std::int64_t ExpensesOf(const GameState& state)
+{
+    return state.ExpState + state.ExpEducation + state.ExpHealth + state.ExpAllowances + state.ExpArmy +
+           state.ExpPolice + state.ExpPrisons + state.ExpUnemployment + state.ExpWar + state.ExpPersonalArmy;
+}
+
+}  // namespace
+
 void UpdateTaxIncome(GameState& state)
 {
     std::int64_t total = 0;
     for (std::size_t f = 0; f < kTaxed; ++f) {
-        const std::int64_t income = state.IncomePerPerson[f] * state.Population[f];
-        state.TaxIncome[f] = RoundHalfEven(static_cast<double>(income) / 100 *
-                                           static_cast<double>(std::int64_t{state.TaxRate[f]}));
+        state.TaxIncome[f] = TaxIncomeOf(state, f);
         total += state.TaxIncome[f];
     }
     state.TaxIncomeTotal = total;
@@ -18,9 +33,16 @@ void UpdateTaxIncome(GameState& state)
 
 void UpdateExpTotal(GameState& state)
 {
-    state.ExpTotal = state.ExpState + state.ExpEducation + state.ExpHealth + state.ExpAllowances +
-                     state.ExpArmy + state.ExpPolice + state.ExpPrisons + state.ExpUnemployment +
-                     state.ExpWar + state.ExpPersonalArmy;
+    state.ExpTotal = ExpensesOf(state);
+}
+
+std::int64_t BalanceNow(const GameState& state)
+{
+    std::int64_t balance = -ExpensesOf(state);
+    for (std::size_t f = 0; f < kTaxed; ++f) {
+        balance += TaxIncomeOf(state, f);
+    }
+    return balance;
 }
 
 std::int64_t Balance(const GameState& state)

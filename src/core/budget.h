@@ -17,6 +17,9 @@ void UpdateExpTotal(GameState& state);
 // What every month brings in (positive) or costs (negative), from the totals as they are stored.
 std::int64_t Balance(const GameState& state);
 
+// The same, counted anew from the rates and lines as they stand; changes nothing.
+std::int64_t BalanceNow(const GameState& state);
+
 // The state's own expenses in peace: (Difficulty + 3) x TotalPopulation.
 std::int64_t PeacefulExpState(const GameState& state);
 

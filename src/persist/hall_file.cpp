@@ -32,13 +32,13 @@ files::Result<HallList> HallFile::Read() const
     return ReadHall(*items, kFile);
 }
 
-bool HallOfFame::Altered() const
+bool HallFile::Altered() const
 {
     const files::Result<std::string> content = files_.ReadWhole(kFile);
     return content && !files::Agrees(files_, kFile, *content);
 }
 
-std::vector<std::string> HallOfFame::Files()
+std::vector<std::string> HallFile::Files()
 {
     return {std::string(kFile), files::SumFile(kFile)};
 }
@@ -78,12 +78,12 @@ HallReport HallFile::Enter(const HallEntry& entry, bool dead) const
         const files::Result<HallList> hall = Read();
         report.hall = hall ? *hall : FreshHall();
         report.trouble = NotWritten(lock.Error());
-        persist::Enter(report.hall, entry, dead);
+        report.place = persist::Enter(report.hall, entry, dead);
         return report;
     }
     bool mayWrite = false;
     report.hall = ReadOrBegin(*lock, report.trouble, mayWrite);
-    persist::Enter(report.hall, entry, dead);
+    report.place = persist::Enter(report.hall, entry, dead);
     if (mayWrite) {
         if (const files::Failure failure =
                 files::ReplaceChecked(files_, *lock, kFile, WriteHall(report.hall))) {

@@ -11,6 +11,8 @@
 #include "files/written_files.h"
 #include "persist/hall_of_fame.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,7 +20,8 @@ namespace persist {
 
 struct HallReport {
     HallList hall{};
-    std::string trouble{};  // in words for the player; empty when all went well
+    std::optional<std::size_t> place{};  // of the entry, from 0; none when it is not among the ten
+    std::string trouble{};               // in words for the player; empty when all went well
 };
 
 class HallFile {

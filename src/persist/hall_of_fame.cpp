@@ -102,15 +102,17 @@ std::string ShownScore(double score, const core::NumberFormat& format)
     return format.Amount(score / kShownIn);
 }
 
-void Enter(HallList& hall, const HallEntry& entry, bool dead)
+std::optional<std::size_t> Enter(HallList& hall, const HallEntry& entry, bool dead)
 {
     const std::int64_t score = dead ? 0 : Score(entry);
     const auto place =
         std::find_if(hall.begin(), hall.end(), [score](const HallEntry& e) { return score >= Score(e); });
-    if (place != hall.end()) {
-        std::move_backward(place, hall.end() - 1, hall.end());
-        *place = entry;
+    if (place == hall.end()) {
+        return std::nullopt;
     }
+    std::move_backward(place, hall.end() - 1, hall.end());
+    *place = entry;
+    return static_cast<std::size_t>(place - hall.begin());
 }
 
 std::string Sentence(const HallEntry& entry, const core::NumberFormat& format)

@@ -44,8 +44,8 @@ std::int64_t Score(const HallEntry& entry);
 // The score as it is shown: in hundreds of thousands.
 std::string ShownScore(double score, const core::NumberFormat& format);
 
-// Puts the entry before the first that scored no more than it; none of the ten need be so.
-void Enter(HallList& hall, const HallEntry& entry, bool dead);
+// Puts the entry before the first that scored no more than it; none of the ten need be so. Returns its place, from 0.
+std::optional<std::size_t> Enter(HallList& hall, const HallEntry& entry, bool dead);
 
 std::string Sentence(const HallEntry& entry, const core::NumberFormat& format);
 

@@ -79,12 +79,34 @@ void PaintPicture(Brush& brush, const BoxF& box, std::string_view file, std::str
     PaintText(brush, box.Grown(-4), caption.empty() ? file : caption, style, style.fore);
 }
 
+namespace {
+
+// On paper the report's bright signs need an edge of ink around them.
+void PaintMarkEdge(Canvas& canvas, ui::Mark mark, PointF middle, double scale)
+{
+    const auto [x, y] = middle;
+    if (mark == ui::Mark::Triangle) {
+        PaintTriangle(canvas, {x, y - 6 * scale - 1.8}, 6.5 * scale + 1.8, 12 * scale + 2.8, look::kInk);
+    } else if (mark == ui::Mark::Disc) {
+        canvas.Disc(middle, 6 * scale + 1, look::kInk);
+    } else if (mark == ui::Mark::Diamond) {
+        const double r = 7 * scale + 1.4;
+        canvas.Polygon(std::array<PointF, 4>{{{x, y - r}, {x + r, y}, {x, y + r}, {x - r, y}}}, look::kInk);
+    }
+}
+
+}  // namespace
+
 void PaintMark(Brush& brush, ui::Mark mark, PointF middle, double scale, ui::Color color)
 {
     Canvas& canvas = brush.canvas;
     const auto [x, y] = middle;
+    if (!brush.ground.secret) {
+        PaintMarkEdge(canvas, mark, middle, scale);
+    }
     switch (mark) {
     case ui::Mark::None:
+    case ui::Mark::Blank:
         break;
     case ui::Mark::Up:
         PaintTriangle(canvas, {x, y - 4}, 5, 8, color);
@@ -110,6 +132,10 @@ void PaintMark(Brush& brush, ui::Mark mark, PointF middle, double scale, ui::Col
                        look::kMagenta);
         break;
     }
+    case ui::Mark::Question:
+        canvas.Rounded({x - 6, y - 7, 12, 14}, 2, Ink::Flat(look::kQuestion));
+        PaintLine(brush, "?", ui::Face::CaptionBold, 13, ui::Align::Center, {x, y + 4.5}, look::kSecret);
+        break;
     }
 }
 

@@ -167,6 +167,24 @@ void PaintNote(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& bo
     canvas.Line(PaperClip({box.Right() - 34, box.top + 2}), 2.6, Rgb(0x6A7072));
 }
 
+// The upper edge has teeth where it was torn off; the shadow lies on the desk.
+void PaintTornPaper(Brush& brush, const ui::Form&, const Decor&, const BoxF& box)
+{
+    constexpr double kTooth = 8;
+    constexpr double kDepth = 3;
+    std::vector<PointF> outline{{box.left, box.Bottom()}};
+    for (double x = box.left; x < box.Right(); x += kTooth) {
+        outline.push_back({x, box.top + kDepth});
+        outline.push_back({std::min(x + kTooth / 2, box.Right()), box.top});
+    }
+    outline.push_back({box.Right(), box.top + kDepth});
+    outline.push_back({box.Right(), box.Bottom()});
+    brush.canvas.Fill(box.Moved(7, 8), look::kBlack, 0.45);
+    brush.canvas.Polygon(outline, Rgb(0xFBF2DC));
+    brush.canvas.Fill({box.left, box.Bottom() - 1, box.width, 1}, look::kSheetEdge);
+    brush.canvas.Line(PaperClip({box.Right() - 48, box.top - 6}), 2.6, Rgb(0x6A7072));
+}
+
 void PaintPictureDecor(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& box)
 {
     PaintPicture(brush, box, decor.text, decor.text);
@@ -254,6 +272,7 @@ constexpr Paint kPaints[] = {
     [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) { PaintBand(b, box, d.text); },
     [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) { PaintSecretBand(b, box, d.text); },
     PaintFootStrip,
+    PaintTornPaper,
     PaintNote,
     PaintPictureDecor,
     PaintHeading,
@@ -280,8 +299,9 @@ static_assert(std::size(kPaints) == static_cast<std::size_t>(Kind::Fill) + 1);
 bool IsSecret(const ui::Form& form)
 {
     const auto decor = form.GetDesign().decor;
-    return std::none_of(decor.begin(), decor.end(),
-                        [](const Decor& each) { return each.kind == Kind::PaperSheet; });
+    return std::none_of(decor.begin(), decor.end(), [](const Decor& each) {
+        return each.kind == Kind::PaperSheet || each.kind == Kind::TornPaper;
+    });
 }
 
 bool DecorShows(const ui::Form& form, std::string_view file)

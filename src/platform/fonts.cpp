@@ -23,8 +23,10 @@ constexpr FaceFile kFaceFiles[] = {
     {"Courier Prime", "Bold", "opentype/courier-prime/Courier Prime Bold.otf"},
     {"Courier Prime", "Regular", "opentype/courier-prime/Courier Prime.otf"},
     {"Old Standard TT", "Bold", "truetype/fonts-oldstandard/OldStandard-Bold.ttf"},
+    {"Old Standard TT", "Regular", "truetype/fonts-oldstandard/OldStandard-Regular.ttf"},
+    {"Old Standard TT", "Italic", "truetype/fonts-oldstandard/OldStandard-Italic.ttf"},
 };
-static_assert(std::size(kFaceFiles) == static_cast<std::size_t>(ui::Face::Tag) + 1);
+static_assert(std::size(kFaceFiles) == static_cast<std::size_t>(ui::Face::PrintItalic) + 1);
 
 constexpr const char* kFontFolder = "/usr/share/fonts/";
 constexpr const char* kFallback = "truetype/dejavu/DejaVuSans.ttf";

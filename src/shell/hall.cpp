@@ -3,6 +3,8 @@
 #include "core/start_values.h"
 #include "month/banner.h"
 
+#include <span>
+
 namespace shell {
 
 HallScreen::HallScreen(core::GameState& state, month::Month& month, ui::Desktop& desktop, Screens screens,
@@ -20,11 +22,17 @@ void HallScreen::TopTen()
     state_.HallShown = 1;
     screens_.frmTop102.Show();
     const bool altered = hall_.Altered();
-    const persist::HallReport report = hall_.Enter(persist::EntryOf(state_), state_.Dead == 1);
+    const persist::HallEntry entry = persist::EntryOf(state_);
+    const persist::HallReport report = hall_.Enter(entry, state_.Dead == 1);
+    const std::string points = persist::ShownScore(static_cast<double>(persist::Score(entry)), format_);
     ShowList(report.hall);
+    ShowOwnRow(report, points);
     ShowTrouble(report.trouble);
     if (altered && report.trouble.empty()) {
         TellAltered();
+    }
+    if (onEntered) {
+        onEntered(report.place ? static_cast<int>(*report.place) : -1, points);
     }
 }
 
@@ -44,8 +52,53 @@ void HallScreen::See()
     }
 }
 
+void HallScreen::LayOut(int height)
+{
+    screens::FrmTop102& hall = screens_.frmTop102;
+    hall.SetDecor(height == screens::kHallRowsHeight ? std::span<const ui::Decor>(screens::kHallDecor)
+                                                     : screens::kHallFootDecor);
+    for (int i = 0; i < screens::kHallRows; ++i) {
+        hall.Label2[i].SetRect(screens::HallRank(i, height));
+        hall.Label1[i].SetRect(screens::HallSentence(i, height));
+    }
+}
+
+// His row is lit; a president whom the list passes over reads what it would have taken. The dead are placed as if they
+// had scored nothing, and that is told.
+void HallScreen::ShowOwnRow(const persist::HallReport& report, const std::string& points)
+{
+    screens::FrmTop102& hall = screens_.frmTop102;
+    if (report.place) {
+        const int place = static_cast<int>(*report.place);
+        hall.Shape1.SetRect(screens::HallRow(place, screens::kHallRowsHeight));
+        for (ui::Control* tab :
+             {static_cast<ui::Control*>(&hall.Shape2), static_cast<ui::Control*>(&hall.Label4)}) {
+            tab->SetRect(screens::HallTab(place, screens::kHallRowsHeight));
+        }
+    } else {
+        LayOut(screens::kHallShortHeight);
+        const std::string tenth =
+            persist::ShownScore(static_cast<double>(persist::Score(report.hall.back())), format_);
+        hall.Label5.SetText("You: " + points + " points" +
+                            (state_.Dead == 1 ? ", of which the dead are paid none" : "") +
+                            ". Tenth place begins at " + tenth + ".");
+    }
+    ShowOwn(report.place.has_value(), !report.place);
+}
+
+void HallScreen::ShowOwn(bool row, bool foot)
+{
+    screens::FrmTop102& hall = screens_.frmTop102;
+    hall.Shape1.SetVisible(row);
+    hall.Shape2.SetVisible(row);
+    hall.Label4.SetVisible(row);
+    hall.Label5.SetVisible(foot);
+}
+
 void HallScreen::ShowList(const persist::HallList& list)
 {
+    LayOut(screens::kHallRowsHeight);
+    ShowOwn(false, false);
     for (int i = 0; i < screens::kHallRows; ++i) {
         screens_.frmTop102.Label1[i].SetText(persist::Sentence(list[static_cast<std::size_t>(i)], format_));
     }

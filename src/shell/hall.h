@@ -12,6 +12,9 @@
 #include "ui/screens/frm_top_102.h"
 #include "ui/toolkit/desktop.h"
 
+#include <functional>
+#include <string>
+
 namespace shell {
 
 class HallScreen {
@@ -27,6 +30,9 @@ public:
 
     // At a game's end: the president is placed among the ten, and the list is shown.
     void TopTen();
+    // Once the list is shown at a game's end: his place from 0 (-1: none) and his points as they are shown.
+    std::function<void(int place, const std::string& points)> onEntered;
+
     // The list as it is.
     void See();
     // Closes everything of the finished game and shows the title. While the list is only being looked at it
@@ -35,6 +41,9 @@ public:
 
 private:
     void ShowList(const persist::HallList& list);
+    void LayOut(int height);
+    void ShowOwn(bool row, bool foot);
+    void ShowOwnRow(const persist::HallReport& report, const std::string& points);
     void TellAltered();
     void ShowTrouble(const std::string& trouble);
 

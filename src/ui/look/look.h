@@ -48,6 +48,11 @@ inline constexpr Color kField = Rgb(0xFFFBEE);
 inline constexpr Color kFieldOff = Rgb(0xDCCDA3);  // that takes no text now
 inline constexpr Color kSecretStamp = Rgb(0xEA4033);
 inline constexpr Color kDoneText = Rgb(0xD4D8C9);  // on a button: nothing to be had here for now
+inline constexpr Color kStripCaptionInk = Rgb(0xB9AD8A);
+inline constexpr Color kQuestion = Rgb(0x93A097);  // the ground of the sign for what nobody told
+inline constexpr Color kStripLoss = Rgb(0xFF8A7A);
+inline constexpr Color kSecretFine = Rgb(0x4B3A17);  // the fine line inside a brass edge
+inline constexpr Color kBetter = Rgb(0x12504F);      // on paper: a change for the better; kNegative is the other
 
 // Type ------------------------------------------------------------------------------------------------
 inline constexpr TextStyle kBandTitle{
@@ -187,6 +192,52 @@ inline constexpr TextStyle kYellowKey{
 inline constexpr TextStyle kPicture{
     .face = Face::Heading, .align = Align::Center, .sizes = {{{22, 26}, {19, 23}, {16, 20}}},
     .fore = kSecretText};
+// The edge of the desk.
+inline constexpr TextStyle kStripCaption{.face = Face::Caption, .sizes = {{{13, 16}}}, .fore = kStripCaptionInk};
+inline constexpr TextStyle kStripCaptionRight{
+    .face = Face::Caption, .align = Align::Right, .sizes = {{{13, 16}}}, .fore = kStripCaptionInk};
+inline constexpr TextStyle kStripWord{
+    .face = Face::Typed, .sizes = {{{17, 19}, {15, 17}, {13, 15}}}, .fore = kSecretText};
+inline constexpr TextStyle kStripValue{
+    .face = Face::Typed, .align = Align::Right, .sizes = {{{17, 19}, {15, 17}}}, .fore = kSecretText};
+inline constexpr TextStyle kStripWarning{
+    .face = Face::Caption, .sizes = {{{15, 20}, {13, 18}}}, .fore = kSecretText};
+inline constexpr TextStyle kStripLine{
+    .face = Face::Caption, .sizes = {{{15, 16}, {13, 15}}}, .fore = kStripCaptionInk, .wrap = true};
+// The secretary's slip.
+inline constexpr TextStyle kSlipTitle{.face = Face::Heading, .sizes = {{{22, 26}, {19, 23}}}, .fore = kHeading};
+inline constexpr TextStyle kSlipNote{.face = Face::TypedLight, .sizes = {{{14, 18}}}, .fore = kUsedRow};
+inline constexpr TextStyle kSlipName{.face = Face::Caption, .sizes = {{{15, 20}, {13, 18}}}, .fore = kInk};
+inline constexpr TextStyle kSlipPlain{.face = Face::Caption, .sizes = {{{15, 20}}}, .fore = kInk};
+inline constexpr TextStyle kSlipValue{
+    .face = Face::Typed, .align = Align::Right, .sizes = {{{16, 20}, {14, 18}, {13, 16}}}, .fore = kInk};
+inline constexpr TextStyle kSlipChange{.face = Face::Typed, .sizes = {{{15, 20}, {13, 18}}}, .fore = kInk};
+inline constexpr TextStyle kSlipMoneyChange{
+    .face = Face::Typed, .align = Align::Right, .sizes = {{{15, 20}, {13, 18}}}, .fore = kInk};
+inline constexpr TextStyle kSlipLine{.face = Face::Typed, .sizes = {{{14, 18}, {13, 16}}}, .fore = kInk};
+// The newspaper's own type, where its words are not part of a picture.
+inline constexpr TextStyle kPrintHeadline{
+    .face = Face::Heading, .sizes = {{{122, 124}, {104, 106}, {90, 92}}}, .fore = Rgb(0xA3200F)};
+inline constexpr TextStyle kPrintDeck{
+    .face = Face::Tag, .sizes = {{{31, 33}, {27, 29}, {23, 25}}}, .fore = kInk, .wrap = true, .top = true};
+inline constexpr TextStyle kPrintBelow{
+    .face = Face::PrintItalic, .sizes = {{{16, 18}, {14, 16}, {13, 15}}}, .fore = kInk};
+inline constexpr TextStyle kPrint{
+    .face = Face::Print, .sizes = {{{14, 15}, {13, 15}, {13, 13}}}, .fore = kInk, .wrap = true, .top = true};
+inline constexpr TextStyle kPrintItalic{
+    .face = Face::PrintItalic, .sizes = {{{14, 16}, {13, 15}}}, .fore = kInk};
+inline constexpr TextStyle kPrintTitle{.face = Face::Tag, .sizes = {{{16, 18}, {14, 16}}}, .fore = kInk};
+inline constexpr TextStyle kPrintTitleCenter{
+    .face = Face::Tag, .align = Align::Center, .sizes = {{{15, 18}}}, .fore = kInk};
+inline constexpr TextStyle kPrintName{
+    .face = Face::Tag, .align = Align::Center, .sizes = {{{25, 28}, {20, 24}, {15, 18}}}, .fore = kInk};
+inline constexpr TextStyle kPrintValue{
+    .face = Face::Tag, .sizes = {{{17, 20}, {15, 18}, {13, 16}}}, .fore = kInk};
+// The hall's own row.
+inline constexpr TextStyle kHallYou{
+    .face = Face::Heading, .align = Align::Center, .sizes = {{{15, 15}}}, .fore = kBandText, .wrap = true};
+inline constexpr TextStyle kHallFoot{
+    .face = Face::CaptionBold, .sizes = {{{19, 24}, {17, 22}, {15, 19}}}, .fore = kBandText};
 inline constexpr TextStyle kShape{};  // a shape carries no text
 
 }  // namespace look

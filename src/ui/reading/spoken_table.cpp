@@ -48,6 +48,9 @@ constexpr Spoken kTable[] = {
     {"frmMes2",        "An ally's offer", "Deal, or never.", kWhole},
     {"frmWAR",         "The war is over", "", kWhole},
     {"frmAIN",         "The intelligence report", "Whom to fear, faction by faction.", kWhole},
+    {"frmStrip",       "The edge of the desk", "Month, money and favour, and whom to fear."},
+    {"frmSlip",        "A slip from the secretary", "What the month has changed.", kWhole},
+    {"frmFarewell",    "The last page of El Faro", "Press Return to put it away.", kWhole},
 
     // The menu and the keys. -----------------------------------------------------------------------------------------
     {"frmMain.Label5(0)", "Presidential actions, key 1"},

@@ -12,10 +12,21 @@ namespace screens {
 inline constexpr int kHallRows = 10;
 inline constexpr ui::Rect kHallSheet{8, 8, 779, 579};
 
-inline constexpr int HallRowTop(int place)
+// The rows fill the sheet, or stand a little closer above the foot line.
+inline constexpr int kHallRowsHeight = 522;
+inline constexpr int kHallShortHeight = 489;
+constexpr int HallRowTop(int place, int height = kHallRowsHeight)
 {
-    return 63 + 522 * place / 10;
+    return 63 + height * place / kHallRows;
 }
+constexpr int HallRowHeight(int height) { return height / kHallRows; }
+constexpr ui::Rect HallRank(int place, int height) { return {18, HallRowTop(place, height), 60, HallRowHeight(height)}; }
+constexpr ui::Rect HallSentence(int place, int height)
+{
+    return {94, HallRowTop(place, height), 675, HallRowHeight(height)};
+}
+constexpr ui::Rect HallRow(int place, int height) { return {16, HallRowTop(place, height), 763, HallRowHeight(height)}; }
+constexpr ui::Rect HallTab(int place, int height) { return {16, HallRowTop(place, height), 19, HallRowHeight(height)}; }
 
 inline constexpr std::array<std::string_view, kHallRows> kHallRanks{
     "1", "2", "3", "4", "5", "6", "7", "8", "9", "10"};
@@ -24,7 +35,7 @@ inline constexpr auto kHallRankRows = [] {
     std::array<ui::ElementRow, kHallRows> rows{};
     for (int i = 0; i < kHallRows; ++i) {
         rows[static_cast<std::size_t>(i)] = {
-            i, {18, HallRowTop(i), 60, 52}, kHallRanks[static_cast<std::size_t>(i)], &look::kHallRank, {}};
+            i, HallRank(i, kHallRowsHeight), kHallRanks[static_cast<std::size_t>(i)], &look::kHallRank, {}};
     }
     return rows;
 }();
@@ -32,7 +43,7 @@ inline constexpr auto kHallRankRows = [] {
 inline constexpr auto kHallSentenceRows = [] {
     std::array<ui::ElementRow, kHallRows> rows{};
     for (int i = 0; i < kHallRows; ++i) {
-        rows[static_cast<std::size_t>(i)] = {i, {94, HallRowTop(i), 675, 52}, "", &look::kHallSentence, {}};
+        rows[static_cast<std::size_t>(i)] = {i, HallSentence(i, kHallRowsHeight), "", &look::kHallSentence, {}};
     }
     return rows;
 }();
@@ -40,9 +51,11 @@ inline constexpr auto kHallSentenceRows = [] {
 // Three on either side of the title.
 inline constexpr std::array kHallStars{156, 182, 208, 574, 600, 626};
 
-// The sheet, its band with an emblem and stars at either end, every second row striped, a rule behind each rank.
-inline constexpr auto kHallDecor = [] {
-    std::array<ui::Decor, 3 + kHallStars.size() + kHallRows / 2 + kHallRows> decor{
+// The sheet, its band with an emblem and stars at either end, every second row striped, a rule behind each rank. With
+// a foot line the rows are lower.
+constexpr auto HallDecor(int height)
+{
+    std::array<ui::Decor, 5 + kHallStars.size() + kHallRows / 2 + kHallRows> decor{
         ui::Decor{ui::Decor::Kind::PaperSheet, kHallSheet},
         ui::Decor{ui::Decor::Kind::Band, {8, 8, 779, 46}},
         ui::Decor{ui::Decor::Kind::Picture, {18, 14, 34, 34}, "images/emblem.bmp"},
@@ -52,14 +65,21 @@ inline constexpr auto kHallDecor = [] {
         decor[next++] = {.kind = ui::Decor::Kind::Star, .rect = {left, 23, 18, 18}, .color = look::kSun};
     }
     for (int i = 1; i < kHallRows; i += 2) {
-        decor[next++] = {ui::Decor::Kind::Stripe, {16, HallRowTop(i), 763, 52}};
+        decor[next++] = {ui::Decor::Kind::Stripe, HallRow(i, height)};
     }
     for (int i = 0; i < kHallRows; ++i) {
-        decor[next++] = {
-            .kind = ui::Decor::Kind::Fill, .rect = {80, HallRowTop(i) + 7, 2, 38}, .color = look::kBrass};
+        decor[next++] = {.kind = ui::Decor::Kind::Fill,
+                         .rect = {80, HallRowTop(i, height) + 7, 2, HallRowHeight(height) - 14},
+                         .color = look::kBrass};
     }
+    const bool foot = height == kHallShortHeight;
+    const ui::Rect strip{9, 552, 777, foot ? 34 : 0};
+    decor[next++] = {.kind = ui::Decor::Kind::Fill, .rect = strip, .color = look::kInk};
+    decor[next++] = {.kind = ui::Decor::Kind::Fill, .rect = {9, 551, 777, foot ? 2 : 0}, .color = look::kOchre};
     return decor;
-}();
+}
+inline constexpr auto kHallDecor = HallDecor(kHallRowsHeight);
+inline constexpr auto kHallFootDecor = HallDecor(kHallShortHeight);
 
 struct FrmTop102 : ui::Form {
     explicit FrmTop102(ui::Stage& stage)
@@ -70,8 +90,17 @@ struct FrmTop102 : ui::Form {
     // What went wrong with the list, pasted over its title; the banner is covered by this screen.
     ui::Label Label3{*this, "Label3", {64, 12, 668, 38}, "", look::kTrouble,
         {.visible = false, .back = look::kPaper}};
+    // His own row, under its words.
+    ui::Shape Shape1{*this, "Shape1", HallRow(0, kHallRowsHeight), "", look::kShape,
+        {.visible = false, .back = look::kSun}};
+    ui::Shape Shape2{*this, "Shape2", HallTab(0, kHallRowsHeight), "", look::kShape,
+        {.visible = false, .back = look::kStampRed}};
+    ui::Label Label4{*this, "Label4", HallTab(0, kHallRowsHeight), "Y\nO\nU", look::kHallYou, {.visible = false}};
     ui::ControlArray<ui::Label> Label2{*this, "Label2", kHallRankRows};
     ui::ControlArray<ui::Label> Label1{*this, "Label1", kHallSentenceRows};
+    // Who is not among the ten reads why.
+    ui::Label Label5{*this, "Label5", {68, 553, 700, 32}, "", look::kHallFoot,
+        {.visible = false, .mark = ui::Mark::Down}};
 };
 
 }  // namespace screens

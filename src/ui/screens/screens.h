@@ -10,6 +10,7 @@
 #include "ui/screens/frm_army_c.h"
 #include "ui/screens/frm_bank.h"
 #include "ui/screens/frm_choose.h"
+#include "ui/screens/frm_farewell.h"
 #include "ui/screens/frm_g_rev.h"
 #include "ui/screens/frm_game_loaded.h"
 #include "ui/screens/frm_history.h"
@@ -32,7 +33,9 @@
 #include "ui/screens/frm_save.h"
 #include "ui/screens/frm_show.h"
 #include "ui/screens/frm_show2.h"
+#include "ui/screens/frm_slip.h"
 #include "ui/screens/frm_start.h"
+#include "ui/screens/frm_strip.h"
 #include "ui/screens/frm_taxes.h"
 #include "ui/screens/frm_top_102.h"
 #include "ui/screens/frm_usa.h"
@@ -93,6 +96,11 @@ public:
     FrmMes2 frmMes2{stage_};
     FrmWAR frmWAR{stage_};
     FrmAIN frmAIN{stage_};
+
+    // What stands beside the game.
+    FrmStrip frmStrip{stage_};
+    FrmSlip frmSlip{stage_};
+    FrmFarewell frmFarewell{stage_};
 };
 
 }  // namespace screens

@@ -64,6 +64,12 @@ void Form::SetShade(int percent)
     }
 }
 
+void Form::SetDecor(std::span<const Decor> decor)
+{
+    design_.decor = decor;
+    MarkDirty();
+}
+
 void Form::SetEnabled(bool enabled)
 {
     enabled_ = enabled;

@@ -56,6 +56,7 @@ public:
     void SetBack(Color color);
     int Shade() const { return shade_; }  // by how many percent this screen's own scene is darkened
     void SetShade(int percent);
+    void SetDecor(std::span<const Decor> decor);  // for a screen that is laid out in two ways
 
     bool Loaded() const { return loaded_; }
     bool Visible() const { return visible_; }

@@ -14,7 +14,17 @@
 
 namespace ui {
 
-enum class Face : std::uint8_t { Heading, Caption, CaptionBold, Body, Typed, TypedLight, Tag };
+enum class Face : std::uint8_t {
+    Heading,
+    Caption,
+    CaptionBold,
+    Body,
+    Typed,
+    TypedLight,
+    Tag,
+    Print,
+    PrintItalic
+};
 enum class Align : std::uint8_t { Left, Center, Right };
 
 // A type size and the distance from line to line, in pixels of the picture space.
@@ -51,7 +61,8 @@ struct TextStyle {
 };
 
 // A small sign beside a text, so that nothing is said by colour alone.
-enum class Mark : std::uint8_t { None, Up, Down, Star, Dash, Triangle, Disc, Diamond };
+// Blank keeps a sign's room empty.
+enum class Mark : std::uint8_t { None, Up, Down, Star, Dash, Triangle, Disc, Diamond, Question, Blank };
 
 // One printed thing of a screen that is no control: it takes no click and never changes.
 struct Decor {
@@ -62,6 +73,7 @@ struct Decor {
         Band,         // the band alone, for screens whose heading is a control
         SecretBand,
         FootStrip,  // the tinted strip at a sheet's foot
+        TornPaper,  // a slip of paper with a torn upper edge, lying on the desk
         Note,       // a ruled note under a paper clip
         Picture,    // a picture file, named by text
         Heading,    // text in the style of column headings

@@ -1,0 +1,173 @@
+#include "office/slip_rules.h"
+
+#include "core/budget.h"
+#include "instruments/report_rules.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace office {
+
+namespace {
+
+using core::Kind;
+
+// A note and the amount that it must have; {who} and {amount} are filled in. A question is told with its answer.
+constexpr std::int64_t kAny = -1;
+struct Sentence {
+    Kind kind;
+    std::int64_t amount;
+    std::string_view text;
+};
+constexpr Sentence kSentences[] = {
+    {Kind::Aid, 0, "The Americans did not pay. They wished us luck, in writing."},
+    {Kind::Aid, kAny, "The Americans paid. They would like it to be mentioned."},
+    {Kind::NewChief, kAny, "The {who} has a new chief. The old ashtray stays."},
+    {Kind::Disaster, 1, "The drought goes on. It has been told of our objections."},
+    {Kind::Disaster, 2, "The hurricane has left. It took the coast road with it."},
+    {Kind::Disaster, 3, "The earth is quiet. The statues are being stood up again."},
+    {Kind::GoodNews, kAny, "There was good news. It was checked twice, then printed."},
+    {Kind::ChiefGone, kAny, "The {who} has lost its chief. His desk was empty."},
+    {Kind::Damage, kAny, "The guerrillas cost ${amount}. They gave no receipt."},
+    {Kind::WarBegins, kAny, "We are at war with {who}. They have been told."},
+    {Kind::Base, kAny, "An American base was opened. The band knew one anthem."},
+    {Kind::War, 1, "{who} is beaten. The map is being redrawn, in pencil."},
+    {Kind::War, 0, "{who} has won. The map is being redrawn, in ink."},
+    {Kind::Survived, kAny, "The {who} missed. The tailor asks for the coat."},
+    {Kind::Executed, kAny, "{amount} {who} were executed. The others wrote."},
+    {Kind::Spared, kAny, "The {who} were spared, and are wondering why."},
+    {Kind::Coup, kAny, "The chief of the {who} has tried another chair."},
+    {Kind::Revolution, kAny, "The {who} rose. The street is being swept."},
+    {Kind::Revolt, kAny, "The {who} rose. The street is being swept."},
+    {Kind::Battle, 1, "The battle is won. The windows are being counted."},
+};
+
+struct AnsweredSentence {
+    Kind question;
+    std::int64_t answer;
+    std::string_view text;
+};
+constexpr AnsweredSentence kAnswered[] = {
+    {Kind::Request, 1, "The {who} got what they asked for. They are thinking."},
+    {Kind::Request, 0, "The {who} were refused. They took it standing."},
+    {Kind::Demand, 1, "The {who} are content. It lasts about a month."},
+    {Kind::Demand, 0, "The {who} were refused. The Ambassador left his hat."},
+    {Kind::Claim, 1, "The {who} were paid, and came close to thanking you."},
+    {Kind::Claim, 0, "The {who} were not paid. They have kept the bill."},
+};
+
+constexpr std::string_view kQuiet[] = {
+    "Nothing happened. It was done with great care.",
+    "Our cane has left the harbour. The price left before it.",
+    "No news. El Faro printed it on three pages.",
+    "The people were content, or elsewhere.",
+    "The Palace clock was repaired. It is late, but firm.",
+    "Somebody laughed in the square. We are looking into it.",
+    "Rain fell, on both sides of the fence.",
+    "A letter of thanks has come. The handwriting is known.",
+    "Your statue was cleaned. The pigeons have been notified.",
+    "The Minister of Health is ill. He prefers it abroad.",
+    "The census is finished. Those who were out count as absent.",
+    "A bridge was opened. The river will follow in the spring.",
+};
+
+std::string Filled(std::string_view text, core::Who who, std::int64_t amount,
+                   const core::NumberFormat& format)
+{
+    std::string filled(text);
+    const auto replace = [&filled](std::string_view what, const std::string& with) {
+        if (const std::size_t at = filled.find(what); at != std::string::npos) {
+            filled.replace(at, what.size(), with);
+        }
+    };
+    replace("{who}", std::string(core::NameOf(who)));
+    replace("{amount}", format.Amount(amount));
+    return filled;
+}
+
+std::optional<std::string> Told(const std::vector<core::Note>& notes, std::size_t at,
+                                const core::NumberFormat& format)
+{
+    const core::Note& note = notes[at];
+    if (note.kind == Kind::Answer) {
+        for (std::size_t i = at; i > 0; --i) {
+            const core::Note& question = notes[i - 1];
+            const auto found =
+                std::find_if(std::begin(kAnswered), std::end(kAnswered), [&](const auto& each) {
+                    return each.question == question.kind && each.answer == note.amount;
+                });
+            if (found != std::end(kAnswered)) {
+                return Filled(found->text, question.who, question.amount, format);
+            }
+        }
+        return std::nullopt;
+    }
+    const auto found =
+        std::find_if(std::begin(kSentences), std::end(kSentences), [&note](const Sentence& each) {
+            return each.kind == note.kind && (each.amount == kAny || each.amount == note.amount);
+        });
+    return found == std::end(kSentences) ? std::nullopt
+                                         : std::optional(Filled(found->text, note.who, note.amount, format));
+}
+
+std::string QuietLine(std::int64_t month)
+{
+    return std::string(
+        kQuiet[static_cast<std::size_t>(std::max<std::int64_t>(month, 0)) % std::size(kQuiet)]);
+}
+
+}  // namespace
+
+Standing StandingOf(const core::GameState& state)
+{
+    Standing standing{.month = state.MonthsInPower,
+                      .treasury = state.Money,
+                      .balance = core::BalanceNow(state),
+                      .reported = instruments::WhyNoReport(state) == instruments::ReportRefusal::None,
+                      .figures = {},
+                      .inTheMountains = state.Population[core::Guerrillas]};
+    for (std::size_t f = 0; f < core::kFactions; ++f) {
+        standing.figures[f] = std::clamp<std::int64_t>(state.Opposition[f], 0, 100);
+    }
+    standing.figures[kGuerrillaRow] = state.Strength[core::Guerrillas];
+    return standing;
+}
+
+std::optional<std::int64_t> Figure(const Standing& standing, std::size_t row)
+{
+    return standing.reported || row == kGuerrillaRow ? std::optional(standing.figures.at(row)) : std::nullopt;
+}
+
+std::optional<std::int64_t> Change(const Standing& before, const Standing& after, std::size_t row)
+{
+    const std::optional<std::int64_t> was = Figure(before, row);
+    const std::optional<std::int64_t> is = Figure(after, row);
+    return was && is ? std::optional(*is - *was) : std::nullopt;
+}
+
+std::vector<std::string> Happenings(const std::vector<core::Note>& notes, const Standing& before,
+                                    const Standing& after, const core::NumberFormat& format)
+{
+    std::vector<std::string> lines;
+    for (std::size_t i = 0; i < notes.size(); ++i) {
+        if (std::optional<std::string> line = Told(notes, i, format)) {
+            lines.push_back(std::move(*line));
+        }
+    }
+    const bool quiet = lines.empty();
+    const std::int64_t fled = after.inTheMountains - before.inTheMountains;
+    if (fled > 0 && before.reported && after.reported) {
+        lines.insert(lines.begin(),
+                     format.Amount(fled) + " people have moved to the mountains, for the air.");
+    }
+    if (quiet) {
+        lines.push_back(QuietLine(after.month));
+    }
+    if (lines.size() > kMostHappenings) {
+        lines.erase(lines.begin(), lines.end() - static_cast<std::ptrdiff_t>(kMostHappenings));
+    }
+    return lines;
+}
+
+}  // namespace office

@@ -1,0 +1,63 @@
+// The secretary's slip: what it tells of a month, and that it lies there only on a free desk.
+#include "office/slip_rules.h"
+
+#include "office/fits.h"
+#include "support/test_game.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using core::Kind;
+using core::Who;
+using office::Standing;
+using testing::ElementsAre;
+
+TEST(SlipRules, LeaveOutWhatNobodyReported)
+{
+    Standing before{.reported = true, .figures = {40, 50}};
+    Standing after{.reported = true, .figures = {47, 44}};
+    after.figures[office::kGuerrillaRow] = 3;
+    EXPECT_EQ(office::Change(before, after, 0), 7);
+    EXPECT_EQ(office::Change(before, after, 1), -6);
+    for (Standing* unreported : {&before, &after}) {
+        unreported->reported = false;
+        EXPECT_EQ(office::Change(before, after, 0), std::nullopt);
+        EXPECT_EQ(office::Change(before, after, office::kGuerrillaRow), 3) << "the army's map tells it";
+        unreported->reported = true;
+    }
+}
+
+TEST(SlipRules, TellTheLatestTwoThingsInALineEach)
+{
+    const Standing standing{.month = 3, .reported = true};
+    const Standing more{.month = 4, .reported = true, .inTheMountains = 212};
+    const std::vector<core::Note> claim{
+        {Kind::Month, {}, 5, 3}, {Kind::Claim, Who::Workers, 9, 3}, {Kind::Answer, Who::Workers, 0, 3}};
+    const auto told = [&](const std::vector<core::Note>& notes) {
+        return office::Happenings(notes, standing, more, {});
+    };
+    EXPECT_THAT(told({}), ElementsAre("212 people have moved to the mountains, for the air.", testing::_));
+    EXPECT_THAT(told(claim), ElementsAre(testing::_, "The Workers were not paid. They have kept the bill."));
+    EXPECT_THAT(told({{Kind::Disaster, {}, 2, 3}, {Kind::Damage, {}, 1'500'000, 3}}),
+                ElementsAre(testing::StartsWith("The hurricane"),
+                            "The guerrillas cost $1,500,000. They gave no receipt."));
+
+    // Any note, about anybody, however much: at most two lines that fit the slip.
+    for (int kind = 0; kind <= static_cast<int>(Kind::End); ++kind) {
+        for (int who = 0; who <= static_cast<int>(Who::Americans); ++who) {
+            for (const std::int64_t amount : {0, 1, 2, 3, 2'147'483'647}) {
+                const core::Note note{static_cast<Kind>(kind), static_cast<Who>(who), amount, 3};
+                const core::Note answer{Kind::Answer, note.who, amount % 2, 3};
+                const auto lines = told({note, answer, note});
+                EXPECT_LE(lines.size(), office::kMostHappenings);
+                for (const std::string& line : lines) {
+                    EXPECT_LE(line.size(), 62U) << line;
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
