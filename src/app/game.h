@@ -195,7 +195,7 @@ private:
     office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
-    office::Slip slip_{state_, desktop_, screens_, format_};
+    office::Slip slip_{state_, journal_, screens_, desktop_, format_};
     office::Farewell farewell_{state_, journal_, screens_.frmFarewell, sound_, format_};
 
     std::map<std::string, std::function<void()>, std::less<>> routines_;

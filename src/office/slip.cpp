@@ -48,19 +48,23 @@ ui::Mark MarkOf(std::size_t row, std::int64_t figure)
 
 }  // namespace
 
-void Slip::Begin()
+Slip::Slip(const core::GameState& state, core::Journal& journal, screens::Screens& screens,
+           const ui::Desktop& desktop, const core::NumberFormat& format)
+    : state_(state), screens_(screens), desktop_(desktop), format_(format)
 {
-    after_ = StandingOf(state_);
-    waits_ = false;
+    journal.Listen([this](const core::Note& note) { Note(note); });
 }
 
-void Slip::MonthClosed(const std::vector<core::Note>& notes)
+// The month's own note comes when the accounts are settled and nothing else has happened yet.
+void Slip::Note(const core::Note& note)
 {
-    before_ = after_;
-    after_ = StandingOf(state_);
-    notes_ = notes;
-    waits_ = true;
-    closedAt_ = desktop_.Uses();
+    if (note.kind == core::Kind::Month) {
+        before_ = StandingOf(state_);
+        before_.treasury -= note.amount;
+        notes_.clear();
+        waits_ = true;
+    }
+    notes_.push_back(note);
 }
 
 bool Slip::DeskIsFree() const
@@ -69,7 +73,7 @@ bool Slip::DeskIsFree() const
     const ui::Label& message = screens_.frmMonthBanner.Label1;
     return screens_.frmMain.Visible() && screens_.frmMain.Enabled() && state_.Dead == 0 &&
            screens_.frmMonthBanner.Back() != look::kRed && !screens_.frmMonthBanner.Image1.Now().visible &&
-           message.Text().size() <= kShortMessage &&
+           (message.Text().size() <= kShortMessage || message.Now().folded) &&
            std::all_of(shown.begin(), shown.end(), [this](const ui::Form* form) {
                const ui::Form::Design& design = form->GetDesign();
                return design.backdrop || design.fixture || form == &screens_.frmMain;
@@ -78,13 +82,9 @@ bool Slip::DeskIsFree() const
 
 void Slip::Refresh()
 {
-    if (!waits_) {
-        return;
-    }
-    if (desktop_.Uses() != closedAt_) {
-        waits_ = false;  // the president went on to something else
-    } else if (DeskIsFree()) {
+    if (waits_ && DeskIsFree()) {
         waits_ = false;
+        after_ = StandingOf(state_);
         Write();
         screens_.frmSlip.Show();
     }

@@ -1,4 +1,5 @@
-// The secretary's slip: laid on the desk when a month is closed and the desk is free, and gone with the first click.
+// The secretary's slip: laid on the desk when a month is over and the desk is free, and gone with the first click. It
+// compares with the moment in which the president ended the month, so that it tells what others have done.
 #pragma once
 
 #include "core/game_state.h"
@@ -8,23 +9,16 @@
 #include "ui/screens/screens.h"
 #include "ui/toolkit/desktop.h"
 
-#include <cstdint>
 #include <vector>
 
 namespace office {
 
 class Slip {
 public:
-    Slip(const core::GameState& state, const ui::Desktop& desktop, screens::Screens& screens,
-         const core::NumberFormat& format)
-        : state_(state), desktop_(desktop), screens_(screens), format_(format)
-    {}
+    Slip(const core::GameState& state, core::Journal& journal, screens::Screens& screens,
+         const ui::Desktop& desktop, const core::NumberFormat& format);
 
-    // A game begins, or another is loaded: what was before it is no news.
-    void Begin();
-    // Keeps what is needed and writes nothing yet: perhaps nobody looks.
-    void MonthClosed(const std::vector<core::Note>& notes);
-    // Lays the slip down where there is one to lay and room for it.
+    // Lays the slip down where there is one to lay and room for it; until then nothing is written.
     void Refresh();
 
 private:
@@ -33,15 +27,16 @@ private:
     void WriteRow(int row);
     void WriteMoney(int row, std::int64_t before, std::int64_t after);
 
+    void Note(const core::Note& note);
+
     const core::GameState& state_;
-    const ui::Desktop& desktop_;
     screens::Screens& screens_;
+    const ui::Desktop& desktop_;
     const core::NumberFormat& format_;
     Standing before_;
     Standing after_;
     std::vector<core::Note> notes_;
     bool waits_ = false;
-    std::uint64_t closedAt_ = 0;  // Desktop::Uses when the month was closed
 };
 
 }  // namespace office

@@ -60,4 +60,42 @@ TEST(SlipRules, TellTheLatestTwoThingsInALineEach)
     }
 }
 
+TEST(Slip, LiesOnAFreeDeskUntilSomethingIsDone)
+{
+    test::TestGame game;
+    game.StartGame();
+    const auto seen = [&game] {
+        game.Desktop().Touch();
+        game.Desktop().Refresh();
+        return game.Shown("frmSlip");
+    };
+    const auto nextMonth = [&game] {
+        game.Set({{"Money", 1'000'000'000}, {"Strength[Guerrillas]", 2}, {"Strength[Prisoners]", 1}});
+        for (const char* group :
+             {"Workers", "Peasants", "Army", "Police", "Landowners", "Businessmen", "Industrialists"}) {
+            game.Set({{"Opposition[" + std::string(group) + "]", 10}});
+        }
+        game.Tell({0.99, 0.99, 0.99, 0.99, 0.99, 0.99});
+        game.Click("frmMain.Label5(4)");
+    };
+    EXPECT_FALSE(seen()) << "nothing has happened yet";
+    nextMonth();
+    EXPECT_FALSE(seen()) << "the month is still going on";
+    game.Wait(3000);
+    ASSERT_TRUE(seen());
+    EXPECT_EQ(game.Text("frmSlip.lblTitle"), "MONTH 2");
+    EXPECT_EQ(game.Text("frmSlip.lblMoney(0)"), game.Text("frmStrip.lblMoney")) << "the strip says the same";
+    EXPECT_EQ(game.Text("frmSlip.lblMoney(1)"), game.Text("frmStrip.lblBalance"));
+    test::ExpectAllFit(game.Form("frmSlip"), "a quiet month");
+    game.Click("frmMain.Label5(3)");
+    EXPECT_FALSE(game.Shown("frmSlip"));
+    EXPECT_FALSE(seen()) << "once is enough";
+    nextMonth();
+    game.Wait(3000);
+    ASSERT_TRUE(seen());
+    game.Desktop().PointerDown({400, 500});
+    game.Desktop().PointerUp({400, 500});
+    EXPECT_FALSE(game.Shown("frmSlip"));
+}
+
 }  // namespace
