@@ -22,7 +22,7 @@ int HeadlineWidth(std::string_view headline)
         const auto isOneOf = [letter](std::string_view letters) {
             return letters.find(letter) != letters.npos;
         };
-        width += isOneOf("I! ") ? 24 : isOneOf("EFL") ? 41 : isOneOf("MW") ? 64 : 50;
+        width += isOneOf("I! ") ? 25 : isOneOf("EFL") ? 48 : isOneOf("MW") ? 78 : 53;
     }
     return std::min(width, screens::kHeadlineRoom);
 }
