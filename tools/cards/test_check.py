@@ -14,7 +14,7 @@ CARDS = HERE.parents[1] / "assets/Actions"
 FAULTS = (
     ("a letter among the numbers", "7", "0,0,0,0,0,-4", "0,0,0,0,0,-x", 1, "strength of Army: expected a whole"),
     ("a number beyond 16 bits", "7", "\r\n2\r\n", "\r\n40000\r\n", 3, "the Americans: expected a whole number"),
-    ("a number out of bounds", "7", "1,3,7,", "1,3,70,", 2, "opposition of Army: expected -15..15, found 70"),
+    ("a number out of bounds", "7", "1,3,8,", "1,3,80,", 2, "opposition of Army: expected -15..15, found 80"),
     ("a number too many", "7", "\r\n2\r\n", "\r\n2,2\r\n", 6, "expected 22 items, found 23"),
     ("a number in quotes", "7", "\r\n2\r\n", '\r\n"2"\r\n', 3, "the Americans: expected a whole number"),
     ("a text without quotes", "7", '"a more modest parade"', "a more modest parade", 4, "title: expected a text"),
@@ -24,10 +24,10 @@ FAULTS = (
     ("the president's title spelt otherwise", "7", "Mr.President", "Mr. President", 6, 'expected "Mr.President"'),
     ("side effects too long for the note", "7", "The landowners ask",
      "The landowners ask by letter, by telegram and by telephone", 5, "side effects: expected at most 13 lines"),
-    ("the angriest left out", "7", "the army, which", "those who", 6, "name Army, whose opposition changes by 7"),
+    ("the angriest left out", "7", "The army gives", "It gives", 6, "name Army, whose opposition changes by 8"),
     ("a title of one word", "7", "a more modest parade", "parades", 4, "title: expected 2 to 8 words, found 1"),
     ("the price of an offer left out", "R7", "from the army", "from them", 1, "name Army, whose opposition"),
-    ("a gain from two cards in turns", "8", "3,3,2", "3,2,2", 2, "opposition of Peasants: expected no gain"),
+    ("a gain from two cards in turns", "8", "2,2,1", "2,1,1", 2, "opposition of Peasants: expected no gain"),
     ("a gain from asking again and again", "24", "3,2,0", "3,-2,0", 2, "this action can be repeated"),
 )
 
