@@ -3,7 +3,6 @@
 #     window, events, audio   SDL2::SDL2
 #     text                    SDL2_ttf::SDL2_ttf
 #     pictures                PNG::PNG
-#     sound                   SDL2_mixer::SDL2_mixer
 #     finding fonts           Fontconfig::Fontconfig
 #     display modes           X11::X11  X11::Xrandr
 #     UTF-8                   utf8::cpp
@@ -14,7 +13,6 @@
 
 find_package(SDL2 2.26 CONFIG REQUIRED)
 find_package(SDL2_ttf CONFIG REQUIRED)
-find_package(SDL2_mixer CONFIG REQUIRED)
 find_package(PNG REQUIRED)
 find_package(Fontconfig REQUIRED)
 find_package(X11 REQUIRED COMPONENTS Xrandr)

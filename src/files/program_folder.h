@@ -2,7 +2,8 @@
 //
 // It is looked for from the program's own place and nowhere else, so that a program that was moved together
 // with its folder still plays: beside the program (the portable folder), in the shared data folder of an
-// installation, at last behind the link "assets" with which a build folder points at its source tree.
+// installation, at last behind the link "assets" with which a build folder, or the one above the program there,
+// points at its source tree.
 //
 // What the game writes (saved games, the hall of fame) lies in a portable folder too, if the player may write
 // there. An installation and a source tree are for everybody and stay as they are: then these files lie in the
@@ -16,6 +17,7 @@
 
 #include <filesystem>
 #include <string_view>
+#include <utility>
 
 namespace files {
 

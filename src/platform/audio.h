@@ -8,14 +8,15 @@
 #pragma once
 
 #include "files/program_folder.h"
-#include "platform/mixer.h"
 
+#include <SDL2/SDL_audio.h>
+
+#include <cstddef>
 #include <cstdint>
-#include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace platform {
 
@@ -32,24 +33,18 @@ public:
     // Lower while somebody speaks.
     void Duck(bool duck);
     std::optional<std::int64_t> NextDue() const;
-    bool Open() const { return mixer_ != nullptr; }
+    bool Open() const { return device_ != 0; }
 
 private:
-    struct ChunkDeleter {
-        void operator()(Mix_Chunk* chunk) const { LoadMixer()->freeChunk(chunk); }
-    };
-    using Chunk = std::unique_ptr<Mix_Chunk, ChunkDeleter>;
-
     bool OpenDevice(std::int64_t now);
     void CloseDevice();
-    Mix_Chunk* Load(const std::string& file);
+    void Sound(std::size_t from);
 
     files::ProgramFolder folder_;
     std::string wanted_;
-    std::map<std::string, Chunk> kept_;  // short ones, which are heard all the time
-    Chunk current_;                      // else the one that sounds
+    std::vector<Uint8> sounds_;  // the last one, as the device takes it
     bool ducked_ = false;
-    const Mixer* mixer_ = nullptr;  // while the device is open
+    SDL_AudioDeviceID device_ = 0;  // 0: closed
     std::int64_t quietAt_ = 0;      // when the device may be closed
     std::int64_t retryAt_ = 0;      // when a device is looked for again
 };

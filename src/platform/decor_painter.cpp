@@ -190,13 +190,6 @@ void PaintPictureDecor(Brush& brush, const ui::Form&, const Decor& decor, const 
     PaintPicture(brush, box, decor.text, decor.text);
 }
 
-void PaintHeading(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& box)
-{
-    ui::TextStyle style = look::kColumn;
-    style.align = decor.align;
-    PaintText(brush, box, decor.text, style, brush.ground.secret ? look::kSun : look::kHeading);
-}
-
 void PaintCaption(Brush& brush, const ui::Form&, const Decor& decor, const BoxF& box)
 {
     PaintText(brush, box, decor.text, look::kCaption,
@@ -275,7 +268,6 @@ constexpr Paint kPaints[] = {
     PaintTornPaper,
     PaintNote,
     PaintPictureDecor,
-    PaintHeading,
     PaintCaption,
     [](Brush& b, const ui::Form&, const Decor& d, const BoxF& box) {
         PaintStamp(b, d, box, look::kStampRed);

@@ -24,7 +24,6 @@ inline constexpr std::array kPaperDecor{
     ui::Decor{Kind::PaperSheet, {20, 58, 500, 420}, "Everything"},
     ui::Decor{Kind::Note, {300, 120, 200, 200}, "Note:"},
     ui::Decor{Kind::Stamp, {330, 270, 140, 27}, "To be signed", 8},
-    ui::Decor{Kind::Heading, {36, 104, 120, 26}, "Heading"},
     ui::Decor{Kind::Rule, {36, 128, 240, 2}},
     ui::Decor{Kind::Stripe, {36, 160, 240, 30}},
     ui::Decor{Kind::DoubleRule, {36, 200, 240, 4}},

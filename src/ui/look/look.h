@@ -78,8 +78,6 @@ inline constexpr TextStyle kPosterDangerButton{
 inline constexpr TextStyle kCaption{.face = Face::Caption, .sizes = {{{16, 26}, {14, 22}}}, .fore = kInk};
 inline constexpr TextStyle kCaptionSecret{
     .face = Face::Caption, .sizes = {{{16, 26}, {14, 22}}}, .fore = kSecretText};
-inline constexpr TextStyle kCaptionWrapped{
-    .face = Face::Caption, .sizes = {{{16, 22}, {14, 18}, {13, 16}}}, .fore = kInk, .wrap = true};
 inline constexpr TextStyle kSmallCaption{
     .face = Face::Caption, .sizes = {{{15, 20}, {13, 18}}}, .fore = kInk};
 inline constexpr TextStyle kTotalCaption{

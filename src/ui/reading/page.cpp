@@ -151,7 +151,6 @@ std::string SaidDecor(const Decor& decor)
     case Decor::Kind::Stamp:
     case Decor::Kind::SecretStamp:
         return "Stamped: " + Lowered(Said(decor.text));
-    case Decor::Kind::Heading:
     case Decor::Kind::Caption:
         return Said(decor.text);
     default:

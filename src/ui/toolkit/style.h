@@ -76,7 +76,6 @@ struct Decor {
         TornPaper,  // a slip of paper with a torn upper edge, lying on the desk
         Note,       // a ruled note under a paper clip
         Picture,    // a picture file, named by text
-        Heading,    // text in the style of column headings
         Caption,    // text in the style of captions
         Stamp,      // text as a rubber stamp, turned by angle
         SecretStamp,
@@ -93,9 +92,8 @@ struct Decor {
     Kind kind = Kind::Fill;
     Rect rect{};
     std::string_view text{};
-    int angle = 0;              // degrees, counter-clockwise
-    Color color{};              // Fill, Star, Rule and Hairline
-    Align align = Align::Left;  // Heading
+    int angle = 0;  // degrees, counter-clockwise
+    Color color{};  // Fill, Star, Rule and Hairline
 };
 
 }  // namespace ui
