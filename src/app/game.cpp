@@ -39,6 +39,7 @@ void Game::Start()
 
 std::vector<shell::Menu::Leftover> Game::Leftovers()
 {
+    constexpr auto kHidden = shell::Menu::Leftover::Goes::Hidden;
     constexpr auto kUnloaded = shell::Menu::Leftover::Goes::Unloaded;
     return {
         {screens_.frmTaxes},
@@ -46,19 +47,19 @@ std::vector<shell::Menu::Leftover> Game::Leftovers()
         {screens_.frmOptions},
         {screens_.frmBank},
         {screens_.frmActions},
-        {screens_.frmShow},
+        {screens_.frmShow, kHidden, true},
         {screens_.frmPolc},
         {screens_.frmArmyC},
         {screens_.frmArmy},
-        {screens_.frmSave, kUnloaded},
-        {screens_.frmLoad, kUnloaded},
+        {screens_.frmSave, kUnloaded, true},
+        {screens_.frmLoad, kUnloaded, true},
         {screens_.frmHistory},
         {screens_.frmWAR},
         {screens_.frmGameLoaded},
         {screens_.frmAIN, kUnloaded},
-        {screens_.frmTop102},
-        {screens_.frmPrRev},
-        {screens_.frmNewspaper},
+        {screens_.frmTop102, kHidden, true},
+        {screens_.frmPrRev, kHidden, true},
+        {screens_.frmNewspaper, kHidden, true},
     };
 }
 
@@ -118,7 +119,8 @@ void Game::WireEvents()
     civilWar_.newArmyChief = newArmyChief;
 }
 
-// F1 opens the manual; the digits are the menu's commands; the others are for the voice.
+// F1 opens the manual; the digits are the menu's commands; Escape leaves what the menu opened; the others are
+// for the voice.
 void Game::WireKeys()
 {
     narrator_.strip = [this] {
@@ -132,9 +134,22 @@ void Game::WireKeys()
         if (narrator_.Press(key)) {
             return true;
         }
+        const bool free = desktop_.TakesInput(screens_.frmMain);
         if (key == ui::Key::F1) {
             manual_.Open();
             return true;
+        }
+        if (key == ui::Key::Escape) {
+            return free && menu_.Leave(desktop_.Shown());
+        }
+        if (key == ui::Key::PreviousCommand || key == ui::Key::NextCommand) {
+            if (free) {
+                desktop_.FocusByKey(menu_.Neighbour(desktop_.Focused(), key == ui::Key::NextCommand));
+            }
+            return free;
+        }
+        if (key == ui::Key::Options) {
+            return !desktop_.Click(screens_.frmMain.Label5[screens::kMenuOptions]);
         }
         if (key >= ui::Key::Digit1 && key <= ui::Key::Digit6) {
             const int item = static_cast<int>(key) - static_cast<int>(ui::Key::Digit1);

@@ -17,8 +17,8 @@ public:
     // Full screen at 800 x 600 x 32 if the display offers exactly that, else scaled.
     virtual void SwitchDisplayMode() = 0;
     virtual void RestoreDisplayMode() = 0;
-    // Hands a document to the viewer of its kind.
-    virtual void OpenDocument(std::string_view file) = 0;
+    // Hands a document to the viewer of its kind, at one of its chapters (the name of a mark in it) or its start.
+    virtual void OpenDocument(std::string_view file, std::string_view chapter) = 0;
     // The program ends when the running event has been handled.
     virtual void EndProgram() = 0;
 };

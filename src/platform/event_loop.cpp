@@ -24,7 +24,8 @@ EventLoop::EventLoop(ui::Desktop& desktop, SdlHost& host, Window& window, Painte
     , painter_(painter)
     , audio_(audio)
     , narration_(narration)
-    , input_(desktop, painter, window)
+    , hands_(desktop)
+    , input_(desktop, hands_, painter, window)
     , passed_(Now())
 {}
 
@@ -38,7 +39,7 @@ void EventLoop::LetTimePass()
 {
     const std::int64_t now = Now();
     if (!desktop_.NextDue() || !Speaking()) {
-        desktop_.Advance(now - passed_);
+        hands_.LetTimePass(now - passed_);
     }
     passed_ = now;
 }
@@ -47,10 +48,11 @@ int EventLoop::Patience() const
 {
     std::int64_t wait = std::numeric_limits<int>::max();
     const std::int64_t since = Now() - passed_;
-    if (const auto due = desktop_.NextDue(); due && Speaking()) {
+    const std::optional<std::int64_t> left = hands_.Patience();
+    if (desktop_.NextDue() && Speaking()) {
         wait = narration_->NextDue().value_or(Now()) - Now();
-    } else if (due) {
-        wait = std::min(wait, *due - desktop_.Now() - since);
+    } else if (left) {
+        wait = std::min(wait, *left - since);
     }
     if (const auto due = audio_.NextDue()) {
         wait = std::min(wait, *due - Now());
@@ -81,16 +83,18 @@ void EventLoop::HandleAll(SDL_Event& event)
             host_.EndProgram();
         } else {
             input_.Handle(event);
-            input_.FollowFocus();
+            gamepad_.Handle(event);
+            input_.Follow();
         }
     } while (!host_.Ended() && SDL_PollEvent(&event) == 1);
 }
 
 void EventLoop::Run()
 {
+    gamepad_.Look();
     while (!host_.Ended()) {
         Show();
-        input_.FollowFocus();
+        input_.Follow();
         if (narration_ != nullptr) {
             narration_->Update();
             audio_.Duck(narration_->Speaking());

@@ -6,12 +6,14 @@
 #pragma once
 
 #include "platform/audio.h"
+#include "platform/gamepad.h"
 #include "platform/input.h"
 #include "platform/narration.h"
 #include "platform/painter.h"
 #include "platform/sdl_host.h"
 #include "platform/window.h"
 #include "ui/toolkit/desktop.h"
+#include "ui/toolkit/hands.h"
 
 #include <cstdint>
 
@@ -39,7 +41,9 @@ private:
     Painter& painter_;
     Audio& audio_;
     Narration* narration_;
+    ui::Hands hands_;
     Input input_;
+    Gamepad gamepad_{hands_};
     std::int64_t passed_ = 0;  // how much of SDL's time the desktop has seen
 };
 

@@ -107,6 +107,25 @@ std::optional<Key> Find(const SDL_KeyboardEvent& event, bool typing)
     return std::nullopt;
 }
 
+SDL_SystemCursor SystemCursor(ui::PointerShape shape)
+{
+    switch (shape) {
+    case ui::PointerShape::Hand:
+        return SDL_SYSTEM_CURSOR_HAND;
+    case ui::PointerShape::Text:
+        return SDL_SYSTEM_CURSOR_IBEAM;
+    case ui::PointerShape::Arrow:
+        break;
+    }
+    return SDL_SYSTEM_CURSOR_ARROW;
+}
+
+// Not one of the keys that have a name only.
+bool IsLetter(SDL_Keycode key)
+{
+    return (key & SDLK_SCANCODE_MASK) == 0 && key > SDLK_SPACE && key != SDLK_DELETE;
+}
+
 std::string FromClipboard()
 {
     char* text = SDL_GetClipboardText();
@@ -117,8 +136,9 @@ std::string FromClipboard()
 
 }  // namespace
 
-Input::Input(ui::Desktop& desktop, Painter& painter, Window& window)
+Input::Input(ui::Desktop& desktop, ui::Hands& hands, Painter& painter, Window& window)
     : desktop_(desktop)
+    , hands_(hands)
     , painter_(painter)
     , window_(window)
     , caretAt_([this](const ui::TextBox& box, int x) { return painter_.CaretAt(box, x); })
@@ -147,6 +167,8 @@ void Input::HandleKey(const SDL_KeyboardEvent& event)
         hands_.Press(Key::Cut);
     } else if (const std::optional<Key> key = Find(event, typing_)) {
         hands_.Press(*key, modifiers);
+    } else if (IsLetter(pressed.sym) && !typing_ && !modifiers.control && !modifiers.alt) {
+        hands_.JumpTo(static_cast<char32_t>(pressed.sym));
     }
 }
 
@@ -154,8 +176,10 @@ void Input::HandleMotion(int x, int y)
 {
     const Viewport view = window_.View();
     if (view.Contains(x, y) || pressed_) {  // a selection may be drawn out beyond the picture
-        desktop_.PointerMove(view.ToPicture(x, y), caretAt_);
+        pointer_ = view.ToPicture(x, y);
+        desktop_.PointerMove(*pointer_, caretAt_);
     } else {
+        pointer_.reset();
         desktop_.PointerLeave();
     }
 }
@@ -204,16 +228,53 @@ void Input::Handle(const SDL_Event& event)
         SDL_free(event.editExt.text);
         break;
     case SDL_WINDOWEVENT:
-        if (event.window.event == SDL_WINDOWEVENT_LEAVE) {
-            desktop_.PointerLeave();
-        } else if (event.window.event == SDL_WINDOWEVENT_EXPOSED ||
-                   event.window.event == SDL_WINDOWEVENT_SIZE_CHANGED) {
-            window_.Renew();
-        }
+        HandleWindow(event.window);
         break;
     default:
         break;
     }
+}
+
+void Input::HandleWindow(const SDL_WindowEvent& event)
+{
+    switch (event.event) {
+    case SDL_WINDOWEVENT_LEAVE:
+        pointer_.reset();
+        desktop_.PointerLeave();
+        break;
+    case SDL_WINDOWEVENT_EXPOSED:
+    case SDL_WINDOWEVENT_SIZE_CHANGED:
+        window_.Renew();
+        break;
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+        window_.FocusLost();
+        break;
+    case SDL_WINDOWEVENT_FOCUS_GAINED:
+        window_.FocusGained();
+        break;
+    default:
+        break;
+    }
+}
+
+void Input::Follow()
+{
+    FollowFocus();
+    FollowPointer();
+}
+
+void Input::FollowPointer()
+{
+    const ui::PointerShape shape = pointer_ ? desktop_.ShapeAt(*pointer_) : ui::PointerShape::Arrow;
+    if (shape == shape_) {
+        return;
+    }
+    shape_ = shape;
+    auto& cursor = cursors_[shape];
+    if (!cursor) {
+        cursor.reset(SDL_CreateSystemCursor(SystemCursor(shape)));
+    }
+    SDL_SetCursor(cursor.get());
 }
 
 void Input::FollowFocus()

@@ -14,6 +14,7 @@ namespace platform {
 namespace {
 
 constexpr ui::Rect kBelowMenu{0, 50, ui::kSpaceWidth, ui::kSpaceHeight - 50};
+constexpr double kDeaf = 0.55;  // how dark it gets over what does not answer
 
 // The backdrop's red is the sign of an uprising.
 bool Uprising(const ui::Desktop& desktop)
@@ -41,6 +42,12 @@ bool LightsRow(const ui::Control& control, const ControlLight& light)
 bool IsGround(const ui::Control& control)
 {
     return control.GetKind() == ui::Control::Kind::Picture && control.Place() == control.GetForm().Place();
+}
+
+// A picture that can be pressed: it has no other way to show that it cannot be at the moment.
+bool IsKey(const ui::Control& control)
+{
+    return control.GetKind() == ui::Control::Kind::Picture && control.Now().tabStop;
 }
 
 const ui::Form* BackdropOf(const ui::Desktop& desktop)
@@ -193,6 +200,9 @@ void Painter::PaintForm(Brush& brush, const ui::Desktop& desktop, const ui::Form
         PaintControl(brush, *control, LightOf(desktop, *control), boxes_);
     }
     for (const ui::Control* control : touched) {
+        if (IsKey(*control) && !desktop.TakesInput(form)) {
+            brush.canvas.Fill(control->Place(), look::kBlack, kDeaf);
+        }
         if (LightOf(desktop, *control).focused) {
             PaintRing(brush, *control);
         }

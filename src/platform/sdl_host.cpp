@@ -35,11 +35,11 @@ void SdlHost::RestoreDisplayMode()
 }
 
 // In full screen the viewer would come up behind the game.
-void SdlHost::OpenDocument(std::string_view file)
+void SdlHost::OpenDocument(std::string_view file, std::string_view chapter)
 {
     if (window_ != nullptr) {
-        window_->LeaveFullScreen();
-        OpenInViewer(folder_.Path(file));
+        window_->StepAside();
+        OpenInViewer(folder_.Path(file), chapter);
     }
 }
 

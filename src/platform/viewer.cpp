@@ -36,9 +36,9 @@ std::string FileUrl(const std::filesystem::path& file)
 }
 
 // A grandchild, which nobody has to wait for. Between fork and exec it only calls what is safe there.
-void OpenInViewer(const std::filesystem::path& file)
+void OpenInViewer(const std::filesystem::path& file, std::string_view chapter)
 {
-    const std::string url = FileUrl(file);
+    const std::string url = FileUrl(file) + (chapter.empty() ? "" : "#" + std::string(chapter));
     const pid_t child = fork();
     if (child == 0) {
         if (fork() == 0) {

@@ -4,6 +4,7 @@
 #include "platform/display_mode.h"
 
 #include <SDL2/SDL_hints.h>
+#include <SDL2/SDL_timer.h>
 
 #include <stdexcept>
 #include <utility>
@@ -14,6 +15,9 @@ namespace {
 
 constexpr int kSmallestWidth = 320;
 constexpr int kSmallestHeight = 240;
+
+// ms: window managers take the focus away and give it back while the mode changes; nobody reads so fast.
+constexpr std::uint64_t kLookedAway = 1000;
 
 }  // namespace
 
@@ -72,14 +76,38 @@ void Window::Present(const SDL_Rect& changed)
 
 void Window::EnterFullScreen()
 {
+    steppedAside_ = false;
     platform::EnterFullScreen(*window_, guard_, before_);
     Renew();
 }
 
 void Window::LeaveFullScreen()
 {
+    steppedAside_ = false;
     platform::LeaveFullScreen(*window_, guard_, before_);
     Renew();
+}
+
+void Window::StepAside()
+{
+    const bool full = IsFullScreen(*window_);
+    LeaveFullScreen();
+    steppedAside_ = full;
+    lostFocus_.reset();
+}
+
+void Window::FocusLost()
+{
+    lostFocus_ = SDL_GetTicks64();
+}
+
+void Window::FocusGained()
+{
+    const bool wasAway = lostFocus_ && SDL_GetTicks64() - *lostFocus_ >= kLookedAway;
+    lostFocus_.reset();
+    if (steppedAside_ && wasAway) {
+        EnterFullScreen();
+    }
 }
 
 void Window::ToggleFullScreen()

@@ -17,7 +17,9 @@
 #include <SDL2/SDL_surface.h>
 #include <SDL2/SDL_video.h>
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace platform {
 
@@ -40,6 +42,10 @@ public:
     void EnterFullScreen();
     void LeaveFullScreen();
     void ToggleFullScreen();
+    // Out of full screen for another program, and into it again when the player comes back from there.
+    void StepAside();
+    void FocusLost();
+    void FocusGained();
 
     void SetIcon(SDL_Surface& icon) { SDL_SetWindowIcon(window_.get(), &icon); }
 
@@ -61,6 +67,8 @@ private:
     int height_ = 0;
     const void* pixels_ = nullptr;
     bool renewed_ = true;
+    bool steppedAside_ = false;
+    std::optional<std::uint64_t> lostFocus_;  // SDL's milliseconds
 };
 
 }  // namespace platform

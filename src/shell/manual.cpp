@@ -2,6 +2,8 @@
 
 #include "month/banner.h"
 
+#include <algorithm>
+#include <iterator>
 #include <system_error>
 
 namespace shell {
@@ -9,6 +11,30 @@ namespace shell {
 namespace {
 
 constexpr std::string_view kManual = "Data/Manual.htm";
+
+// Where the manual speaks of a screen. Any other is in the chapter with every screen.
+struct ChapterRow {
+    std::string_view form, chapter;
+};
+constexpr ChapterRow kChapters[] = {
+    {"frmStart", "office"},   {"frmName", "months"}, {"frmActions", "prices"}, {"frmShow", "prices"},
+    {"frmRev", "rising"},     {"frmGRev", "rising"}, {"frmPrRev", "rising"},   {"frmMes3", "rising"},
+    {"frmChoose", "fight"},   {"frmMes2", "fight"},  {"frmMes", "murder"},     {"frmAFailed", "murder"},
+    {"frmMes1", "murder"},    {"frmUSA", "world"},   {"frmRandom2", "world"},  {"frmWAR", "world"},
+    {"frmNewspaper", "news"}, {"frmShow2", "news"},  {"frmTop102", "score"},   {"frmHistory", "score"},
+    {"frmPolice", "people"},  {"frmSave", "keys"},   {"frmLoad", "keys"},      {"frmOptions", "keys"},
+};
+
+std::string_view ChapterOf(const ui::Desktop& desktop)
+{
+    if (desktop.Shown().empty()) {
+        return {};
+    }
+    const std::string& front = desktop.Shown().back()->Name();
+    const auto* const row = std::find_if(std::begin(kChapters), std::end(kChapters),
+                                         [&front](const ChapterRow& each) { return each.form == front; });
+    return row == std::end(kChapters) ? "screens" : row->chapter;
+}
 
 }  // namespace
 
@@ -20,7 +46,7 @@ std::string Manual::Open()
         return Tell("Mr.President, the manual was expected at " + path.string() +
                     " and is not there. Nobody had read it, so nobody is missing anything.");
     }
-    host_.OpenDocument(kManual);
+    host_.OpenDocument(kManual, ChapterOf(desktop_));
     return Tell("Mr.President, your manual lies at " + path.string());
 }
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <functional>
+#include <span>
 #include <vector>
 
 namespace shell {
@@ -18,6 +19,7 @@ public:
     struct Leftover {
         ui::Form& form;
         enum class Goes { Hidden, Unloaded } goes = Goes::Hidden;
+        bool waits = false;  // for an answer or for buttons of its own: Leave passes it over
     };
     Menu(screens::FrmMain& main, screens::FrmMonthBanner& banner, std::vector<Leftover> leftovers,
          media::Sound& sound);
@@ -28,6 +30,11 @@ public:
     void Label5_Click(int index);
     void Label5_MouseMove(int index);
     void CloseAll();
+    // Puts away the front one of the screens that a command closes, unless it waits for an answer. Returns whether
+    // there was one.
+    bool Leave(std::span<ui::Form* const> shown);
+    // Along the items, as an arrow leads; what lights up is what the focus is on.
+    ui::Control& Neighbour(const ui::Control* focus, bool forward);
 
 private:
     screens::FrmMain& main_;

@@ -418,6 +418,16 @@ TEST_F(Console, FiresTimersInTheOrderOfTheirTimes)
     EXPECT_EQ(Reply("banner").at("text"), " ");
 }
 
+TEST_F(Console, SkipsToTheEndOfAPause)
+{
+    StartGame();
+    EXPECT_EQ(Reply("skip").at("ok"), false) << "nothing is waited for";
+    Do("click frmMain.Label5(4)");
+    Do("call Timer6_Timer");  // four seconds until the end
+    Do("skip");
+    EXPECT_EQ(Reply("timers").at("timers").dump(), R"({"Timer4":1000})") << "the nearer one, and no further";
+}
+
 TEST_F(Console, PressesKeys)
 {
     Do(StartLine());

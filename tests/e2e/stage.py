@@ -126,7 +126,11 @@ class Console:
 
     def __init__(self, scratch):
         self._shot = scratch / "shot.png"
-        self.process = subprocess.Popen([CONSOLE], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        # A home of its own too: what a game leaves behind at its end must not meet the next one.
+        home = scratch / "console"
+        home.mkdir(exist_ok=True)
+        self.process = subprocess.Popen([CONSOLE], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True,
+                                        env=environment_of(home))
         self.ask("start")
 
     def ask(self, *requests):

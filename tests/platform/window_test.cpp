@@ -1,4 +1,5 @@
 #include "platform/event_loop.h"
+#include "platform/gamepad.h"
 #include "platform/guard.h"
 #include "platform/input.h"
 #include "platform/signals.h"
@@ -8,14 +9,19 @@
 #include "platform/sheet.h"
 
 #include <SDL2/SDL.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace {
+
+using ui::Key;
 
 // SDL's dummy driver has windows and surfaces, but no display.
 class WindowTest : public testing::Test {
@@ -27,7 +33,7 @@ protected:
         SDL_Init(SDL_INIT_VIDEO);
         guard_.emplace();
         window_.emplace(*guard_);
-        input_.emplace(desktop_, painter_, *window_);
+        input_.emplace(desktop_, hands_, painter_, *window_);
         paper_.Show();
         window_->Surface();
     }
@@ -58,7 +64,7 @@ protected:
         event.key.keysym.mod = static_cast<Uint16>(modifiers);
         event.key.repeat = repeat ? 1 : 0;
         input_->Handle(event);
-        input_->FollowFocus();
+        input_->Follow();
     }
     void Text(const char* text)
     {
@@ -69,6 +75,7 @@ protected:
     }
 
     ui::Desktop desktop_;
+    ui::Hands hands_{desktop_};
     test::PaperScreen paper_{desktop_};
     files::ProgramFolder assets_{test::Assets()};
     platform::Painter painter_{assets_};
@@ -116,7 +123,7 @@ TEST_F(WindowTest, KeysAreCharactersOnlyInATextBox)
     EXPECT_EQ(used, "13");
 
     desktop_.SetFocus(&paper_.box);
-    input_->FollowFocus();
+    input_->Follow();
     EXPECT_TRUE(SDL_IsTextInputActive());
     Press(SDLK_2);
     Text("2");
@@ -135,6 +142,68 @@ TEST_F(WindowTest, KeysAreCharactersOnlyInATextBox)
     EXPECT_EQ(paper_.box.Text(), "2 Ñ2 Ñą");
     Press(SDLK_TAB);
     EXPECT_FALSE(SDL_IsTextInputActive());
+}
+
+// SDL's virtual controller, which is mapped as a real one.
+TEST_F(WindowTest, AGamepadIsAnotherPairOfHands)
+{
+    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS,
+                "1");  // the dummy driver gives no window the focus
+    std::vector<std::string> story;
+    desktop_.onKey = [&story](Key key) {
+        story.push_back("key " + std::to_string(static_cast<int>(key)));
+        return true;
+    };
+    paper_.button.onClick = [&story] { story.emplace_back("pressed"); };
+    platform::Gamepad gamepad(hands_);
+    gamepad.Start();
+    const int device = SDL_JoystickAttachVirtual(SDL_JOYSTICK_TYPE_GAMECONTROLLER, SDL_CONTROLLER_AXIS_MAX,
+                                                 SDL_CONTROLLER_BUTTON_MAX, 0);
+    ASSERT_GE(device, 0) << SDL_GetError();
+    SDL_Joystick* pad = SDL_JoystickOpen(device);
+    const auto handle = [&gamepad] {
+        SDL_JoystickUpdate();
+        for (SDL_Event event{}; SDL_PollEvent(&event) == 1;) {
+            gamepad.Handle(event);
+        }
+    };
+    const auto press = [&](SDL_GameControllerButton button) {
+        for (const Uint8 down : {Uint8{1}, Uint8{0}}) {
+            SDL_JoystickSetVirtualButton(pad, button, down);
+            handle();
+        }
+    };
+    const auto push = [&](SDL_GameControllerAxis axis, Sint16 value) {
+        SDL_JoystickSetVirtualAxis(pad, axis, value);
+        handle();
+    };
+    handle();
+    desktop_.SetFocus(&paper_.button);
+    press(SDL_CONTROLLER_BUTTON_A);
+    EXPECT_THAT(story, testing::ElementsAre("pressed"));
+    const ui::Control* before = desktop_.Focused();
+    press(SDL_CONTROLLER_BUTTON_DPAD_UP);
+    const ui::Control* above = desktop_.Focused();
+    EXPECT_NE(above, before);
+    desktop_.SetFocus(&paper_.button);
+    push(SDL_CONTROLLER_AXIS_LEFTY, -30000);
+    push(SDL_CONTROLLER_AXIS_LEFTY, -15000);  // a trembling hand
+    push(SDL_CONTROLLER_AXIS_LEFTY, -30000);
+    EXPECT_EQ(desktop_.Focused(), above) << "one push, one step";
+    story.clear();
+    for (const auto button :
+         {SDL_CONTROLLER_BUTTON_B, SDL_CONTROLLER_BUTTON_LEFTSHOULDER, SDL_CONTROLLER_BUTTON_RIGHTSHOULDER,
+          SDL_CONTROLLER_BUTTON_START, SDL_CONTROLLER_BUTTON_Y, SDL_CONTROLLER_BUTTON_X}) {
+        press(button);
+    }
+    std::vector<std::string> wanted;
+    for (const Key key : {Key::Escape, Key::PreviousCommand, Key::NextCommand, Key::Options, Key::Hint}) {
+        wanted.push_back("key " + std::to_string(static_cast<int>(key)));
+    }
+    EXPECT_EQ(story, wanted);
+    SDL_JoystickClose(pad);
+    SDL_JoystickDetachVirtual(device);
+    handle();
 }
 
 TEST_F(WindowTest, HoldingReturnPressesOnce)

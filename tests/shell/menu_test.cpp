@@ -100,6 +100,33 @@ TEST_F(Menu, IsReachedByKeys)
     EXPECT_EQ(game.Banner(), "You are in power for 4 months") << "the focus is still there";
 }
 
+// The guerrillas are attacked with five keys; what was opened is left with one, and the focus is back on the menu.
+TEST_F(Menu, IsFoundAgainWithEscape)
+{
+    game.Press(ui::Key::Digit2);
+    game.Click("frmTaxes.Command11");
+    EXPECT_TRUE(game.Shown("frmBank"));
+    game.Press(ui::Key::Escape);
+    EXPECT_FALSE(game.Shown("frmBank"));
+    EXPECT_EQ(game.Desktop().Focused(), &game.Control("frmMain.Label5(1)"));
+    game.Press(ui::Key::NextCommand);
+    game.Press(ui::Key::NextCommand);
+    game.Press(ui::Key::Return);
+    EXPECT_TRUE(game.Shown("frmArmy"));
+    game.Press(ui::Key::Escape);
+    EXPECT_FALSE(game.Shown("frmArmy"));
+    game.Press(ui::Key::Options);
+    EXPECT_TRUE(game.Shown("frmOptions"));
+
+    game.Press(ui::Key::Digit1);
+    game.Desktop().JumpTo(U'a');
+    game.Press(ui::Key::Return);
+    EXPECT_TRUE(game.Shown("frmShow"));
+    game.Press(ui::Key::Right);
+    game.Press(ui::Key::Return);
+    game.Expect({{"ActionDone[18]", 1}});
+}
+
 TEST_F(Menu, OpensTheManualWithF1)
 {
     game.folder.Remove("Data/Manual.htm");
@@ -109,6 +136,7 @@ TEST_F(Menu, OpensTheManualWithF1)
     game.folder.Write("Data/Manual.htm", "<p>Rule.</p>");
     game.Press(ui::Key::F1);
     EXPECT_THAT(game.host.opened, ElementsAre("Data/Manual.htm"));
+    EXPECT_THAT(game.host.chapters, ElementsAre("screens"));
     EXPECT_THAT(game.Banner(), testing::HasSubstr(game.folder.Path("Data/Manual.htm").string()));
 }
 

@@ -77,6 +77,7 @@ std::span<const Session::Request> Session::Requests()
         Request{"type", When::WhileRunning, &Session::Type},
         Request{"key", When::WhileRunning, &Session::Key},
         Request{"wait", When::WhileRunning, &Session::Wait},
+        Request{"skip", When::WhileRunning, &Session::Skip},
         Request{"call", When::WhileRunning, &Session::Call},
         Request{"set", When::WhileRunning, &Session::Set},
         Request{"narration", When::WhileRunning, &Session::Narration},
@@ -234,6 +235,14 @@ void Session::Wait(Words& words, Json& /*reply*/)
                       std::to_string(kLongestWait) + ")");
     }
     Desktop().Advance(milliseconds);
+}
+
+void Session::Skip(Words& words, Json& /*reply*/)
+{
+    words.End();
+    if (!Desktop().SkipPause()) {
+        throw Refused("no timer is armed that skip could wait for");
+    }
 }
 
 void Session::Call(Words& words, Json& /*reply*/)

@@ -66,6 +66,7 @@ private:
     void Type(Words& words, Json& reply);
     void Key(Words& words, Json& reply);
     void Wait(Words& words, Json& reply);
+    void Skip(Words& words, Json& reply);
     void Call(Words& words, Json& reply);
     void Set(Words& words, Json& reply);
     void Narration(Words& words, Json& reply);

@@ -20,6 +20,7 @@ struct FrmMes : ui::Form {
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
+        cancelButton = &Command1;
     }
 
     ui::Picture Image1{*this, "Image1", {150, 164, 495, 150}, "Somebody is behind you.", look::kPicture,

@@ -11,6 +11,7 @@ struct FrmMes3 : ui::Form {
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
+        cancelButton = &Command1;
     }
 
     ui::Label Label1{*this, "Label1", kMessageText, "", look::kMessageBox};

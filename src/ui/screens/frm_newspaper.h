@@ -14,6 +14,7 @@ struct FrmNewspaper : ui::Form {
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
+        cancelButton = &Command1;
     }
 
     ui::Picture Image1{*this, "Image1", kNewspaperPage, "", look::kPicture};

@@ -20,6 +20,7 @@ struct FrmUSA : ui::Form {
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
+        cancelButton = &Command1;
     }
 
     ui::Picture Image1{*this, "Image1", {150, 184, 495, 150}, "", look::kPicture, {.picture = "images/assassination.bmp"}};

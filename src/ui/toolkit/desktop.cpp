@@ -86,6 +86,10 @@ void Desktop::BringToFront(Form& form)
     shown_.insert(place, &form);
     const bool hasFocus = focus_ != nullptr && &focus_->GetForm() == &form;
     const bool wantsFocus = !design.own || form.initialFocus != nullptr;
+    Control* from = focus_ != nullptr ? focus_ : lastFocus_;
+    if (wantsFocus && from != nullptr && &from->GetForm() != &form) {
+        cameFrom_[&form] = from;
+    }
     if (wantsFocus && TakesInput(form) && !hasFocus) {
         SetFocus(form.initialFocus);
     }
@@ -98,7 +102,7 @@ void Desktop::Remove(Form& form)
         return control != nullptr && &control->GetForm() == &form;
     };
     if (belongs(focus_)) {
-        focus_ = nullptr;
+        lastFocus_ = std::exchange(focus_, nullptr);
     }
     if (belongs(hovered_)) {
         hovered_ = nullptr;
@@ -292,6 +296,26 @@ Control* Desktop::ControlAt(const Form& form, Point at)
     return it == controls.rend() ? nullptr : *it;
 }
 
+PointerShape Desktop::ShapeAt(Point at) const
+{
+    const Form* form = FormAt(at);
+    if (form == nullptr || !TakesInput(*form)) {
+        return PointerShape::Arrow;
+    }
+    const Control* control = ControlAt(*form, at);
+    if (control == nullptr) {
+        return form->onClick ? PointerShape::Hand : PointerShape::Arrow;
+    }
+    if (!control->Now().enabled) {
+        return PointerShape::Arrow;
+    }
+    if (control->GetKind() == Control::Kind::TextBox) {
+        return PointerShape::Text;
+    }
+    const bool acts = control->onClick || form->onClick || control->GetKind() == Control::Kind::OptionButton;
+    return acts ? PointerShape::Hand : PointerShape::Arrow;
+}
+
 void Desktop::SetHovered(Control* control)
 {
     if (control == hovered_) {
@@ -404,6 +428,20 @@ std::optional<std::int64_t> Desktop::NextDue() const
         }
     }
     return next;
+}
+
+std::optional<std::int64_t> Desktop::PauseEnd() const
+{
+    return FrontForm() == nullptr ? NextDue() : std::nullopt;
+}
+
+bool Desktop::SkipPause()
+{
+    const std::optional<std::int64_t> due = NextDue();
+    if (due) {
+        Advance(std::max<std::int64_t>(*due - now_, 0));
+    }
+    return due.has_value();
 }
 
 // Fires the first of the timers that fall due earliest; those of one moment fire in their forms' order.

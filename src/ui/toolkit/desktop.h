@@ -11,11 +11,13 @@
 // Nothing here blocks, sleeps or reads a clock.
 #pragma once
 
+#include "ui/toolkit/eye.h"
 #include "ui/toolkit/form.h"
 #include "ui/toolkit/stage.h"
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -62,6 +64,20 @@ enum class Key : std::uint8_t {
     AltDown,
     AltLeft,
     AltRight,
+    PreviousCommand,  // a gamepad's: along the menu, to the options, and for a hint
+    NextCommand,
+    Options,
+    Hint,
+};
+
+// What the pointer looks like over a place, so that one sees what can be pressed.
+enum class PointerShape : std::uint8_t { Arrow, Hand, Text };
+
+// How long a pause lasts for a player at the window.
+enum class Pauses : std::uint8_t {
+    Full,
+    Short,    // a third
+    ByClick,  // until he ends it
 };
 
 struct Modifiers {
@@ -87,6 +103,7 @@ public:
     const std::vector<Form*>& Shown() const { return shown_; }  // back to front
     Form* FindForm(std::string_view name) const;
     Control* FindControl(std::string_view name) const;      // "frmMain.Label5(4)"; null when there is none
+    bool TakesInput(const Form& form) const;                // shown, enabled, and behind no modal screen
     Form* ModalForm() const;                                // the front modal one, or null
     Form* FormAt(Point at) const;                           // the front one there, or null
     static Control* ControlAt(const Form& form, Point at);  // that does something there, enabled or not
@@ -112,12 +129,16 @@ public:
     Control* Focused() const;
     bool ShowsFocus() const { return keyboardUsed_; }  // the ring appears with a key, and goes with a click
     void SetFocus(Control* control);
+    void FocusByKey(Control& control);  // and lights it up, as the pointer would
     TextBox* FocusedTextBox() const;
     const Control* Hovered() const { return hovered_; }
     const Control* Pressed() const { return pressed_; }
 
     // Before each click and key of the player is looked at.
     std::function<void()> onInput;
+    // To the next button of the front screen whose caption begins with that letter.
+    void JumpTo(char32_t letter);
+    PointerShape ShapeAt(Point at) const;
 
     // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
     std::function<bool(Key)> onKey;
@@ -132,6 +153,10 @@ public:
     std::int64_t Now() const override { return now_; }  // milliseconds since the start
     void Advance(std::int64_t milliseconds);
     std::optional<std::int64_t> NextDue() const;  // of the next armed timer
+    // The end of the pause that runs: a timer is armed, and no screen takes input until it fires.
+    std::optional<std::int64_t> PauseEnd() const;
+    bool SkipPause();  // until the next armed timer has fired; false when there is none
+    Pauses pauses = Pauses::Full;
 
     // Own screens follow the record only when somebody is about to look: a front end calls Refresh before it
     // paints or lists, and nothing is computed while nothing happened. Who changes the record from outside says so.
@@ -165,7 +190,6 @@ private:
 
     Refusal Refused(const Form& form) const;
     Refusal Refused(const Control& control) const;
-    bool TakesInput(const Form& form) const;
     Form* FrontForm() const;
     void Run(Control& control);
     void NoteInput() const;
@@ -178,7 +202,8 @@ private:
     std::vector<Control*> TabRing() const;
     void PressKey(Key key, Modifiers modifiers);
     void MoveFocus(bool forward);
-    void MoveWithinForm(bool forward);
+    void MoveTowards(Direction direction);
+    Control* WhereItCameFrom(const Form* form) const;
     bool PressInTextBox(TextBox& box, Key key, Modifiers modifiers);
     bool PressOnFocus(Key key);
     bool PressOnForm(Key key);
@@ -190,6 +215,8 @@ private:
     int depth_ = 0;
     Cause cause_ = Cause::Player;
     Control* focus_ = nullptr;
+    Control* lastFocus_ = nullptr;              // before its screen went
+    std::map<const Form*, Control*> cameFrom_;  // the focus before a screen was shown
     Control* hovered_ = nullptr;
     Control* pressed_ = nullptr;
     Form* pressedForm_ = nullptr;

@@ -72,7 +72,10 @@ void Form::SetDecor(std::span<const Decor> decor)
 
 void Form::SetEnabled(bool enabled)
 {
-    enabled_ = enabled;
+    if (enabled_ != enabled) {
+        enabled_ = enabled;
+        MarkDirty();  // a menu that does not answer looks so
+    }
 }
 
 void Form::Load()

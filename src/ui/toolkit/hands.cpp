@@ -8,6 +8,14 @@ namespace {
 
 constexpr std::int64_t kAfterTyping = 1000;  // ms: an amount that is typed again must not end the month
 
+constexpr std::int64_t kRead = 1000;  // ms that a pause lasts at least: nobody ends one that he has not seen
+constexpr std::int64_t kShortly = 3;  // a short pause is a third of a full one
+
+bool EndsPauses(Key key)
+{
+    return key == Key::Return || key == Key::Space || key == Key::Escape;
+}
+
 bool IsDigit(Key key)
 {
     return key >= Key::Digit1 && key <= Key::Digit6;
@@ -62,6 +70,10 @@ bool Hands::CommandsMenu(Modifiers modifiers) const
 void Hands::Press(Key key, Modifiers modifiers)
 {
     NoteTyping();
+    if (EndsPauses(key) && desktop_.PauseEnd()) {
+        EndPause();
+        return;
+    }
     if (!IsDigit(key) || desktop_.FocusedTextBox() != nullptr || CommandsMenu(modifiers)) {
         desktop_.Press(key, modifiers);
     }
@@ -87,6 +99,11 @@ void Hands::PointerDown(Point at, int clicks, bool shift, const Desktop::CaretAt
     } else if (!WasThere(at)) {
         return;
     }
+    const Form* form = desktop_.FormAt(at);
+    if (desktop_.PauseEnd() && (form == nullptr || form->GetDesign().backdrop)) {
+        EndPause();
+        return;
+    }
     desktop_.PointerDown(at, clicks, shift, caretAt);
 }
 
@@ -94,6 +111,45 @@ void Hands::PointerUp(Point at)
 {
     NoteTyping();
     desktop_.PointerUp(at);
+}
+
+void Hands::EndPause()
+{
+    if (desktop_.PauseEnd() == pauseEnd_ && waited_ >= kRead) {
+        desktop_.SkipPause();
+    }
+}
+
+void Hands::LetTimePass(std::int64_t milliseconds)
+{
+    const std::optional<std::int64_t> end = desktop_.PauseEnd();
+    if (!end) {
+        desktop_.Advance(milliseconds);
+        return;
+    }
+    waited_ = *end == pauseEnd_ ? waited_ + milliseconds : milliseconds;
+    pauseEnd_ = *end;
+    switch (desktop_.pauses) {
+    case Pauses::Full:
+        desktop_.Advance(milliseconds);
+        break;
+    case Pauses::Short:
+        desktop_.Advance(std::min(milliseconds * kShortly, *end - desktop_.Now()));
+        break;
+    case Pauses::ByClick:
+        break;  // the clock stands still
+    }
+}
+
+std::optional<std::int64_t> Hands::Patience() const
+{
+    const std::optional<std::int64_t> due = desktop_.NextDue();
+    const bool pause = desktop_.PauseEnd().has_value();
+    if (!due || (pause && desktop_.pauses == Pauses::ByClick)) {
+        return std::nullopt;
+    }
+    const std::int64_t left = *due - desktop_.Now();
+    return pause && desktop_.pauses == Pauses::Short ? (left + kShortly - 1) / kShortly : left;
 }
 
 }  // namespace ui

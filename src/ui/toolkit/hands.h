@@ -7,12 +7,17 @@
 // - The second press of a double click answers nothing that was not there at the first: no other screen than the
 //   first did, and no button that has been given another caption.
 // - A digit is a command of the menu only by itself, a second after the last typing, and while nothing is asked.
+//
+// And they need not wait: from its second second on, a press on the ground, Return, Space or Escape ends a pause.
+// The player's time passes here too, since pauses last as long as he likes (Desktop::pauses). The order of events
+// is that of the virtual clock, which knows full pauses only.
 #pragma once
 
 #include "ui/toolkit/desktop.h"
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,10 +31,15 @@ public:
     void Press(Key key, Modifiers modifiers = {});
     void EnterText(std::string_view text);
     void Compose(std::string_view text);
+    void JumpTo(char32_t letter) { desktop_.JumpTo(letter); }
 
     // `clicks` is 1 for the first press of a series, 2 for that which makes a double click, and so on.
     void PointerDown(Point at, int clicks = 1, bool shift = false, const Desktop::CaretAt& caretAt = {});
     void PointerUp(Point at);
+
+    // Milliseconds of the player's time: those that pass, and those until something falls due.
+    void LetTimePass(std::int64_t milliseconds);
+    std::optional<std::int64_t> Patience() const;
 
 private:
     // The screen under the first press of a series, as it was then.
@@ -47,9 +57,12 @@ private:
     bool WasThere(Point at) const;
     void NoteTyping();
     bool CommandsMenu(Modifiers modifiers) const;
+    void EndPause();
 
     Desktop& desktop_;
     Seen seen_;
+    std::int64_t pauseEnd_ = -1;  // of the pause that runs, on the virtual clock
+    std::int64_t waited_ = 0;     // in that pause
     std::int64_t lastTyping_ = std::numeric_limits<std::int64_t>::min() / 2;
 };
 

@@ -1,6 +1,8 @@
 // The keyboard side of the desktop: focus, keys and typing.
 #include "ui/toolkit/desktop.h"
 
+#include <utf8.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -9,12 +11,6 @@ namespace ui {
 namespace {
 
 constexpr int kRingMargin = 10;
-
-// Option buttons, menu items and rows of one kind form a group that the arrows walk through.
-bool SameGroup(const Control& a, const Control& b)
-{
-    return &a.GetForm() == &b.GetForm() && a.GetKind() == b.GetKind();
-}
 
 std::string_view Digit(Key key)
 {
@@ -34,6 +30,31 @@ std::string_view Digit(Key key)
     default:
         return {};
     }
+}
+
+Direction TowardsBy(Key arrow)
+{
+    switch (arrow) {
+    case Key::Up:
+        return Direction::Up;
+    case Key::Down:
+        return Direction::Down;
+    case Key::Left:
+        return Direction::Left;
+    default:
+        return Direction::Right;
+    }
+}
+
+char32_t FirstLetter(const std::string& text)
+{
+    auto first = text.begin();
+    return text.empty() || !utf8::is_valid(text) ? 0 : utf8::unchecked::next(first);
+}
+
+char32_t SmallLetter(char32_t letter)
+{
+    return letter >= U'A' && letter <= U'Z' ? letter - U'A' + U'a' : letter;
 }
 
 }  // namespace
@@ -97,39 +118,85 @@ void Desktop::MoveFocus(bool forward)
     if (found != ring.end()) {
         at = (std::distance(ring.begin(), found) + (forward ? 1 : size - 1)) % size;
     }
-    Control* control = ring[static_cast<std::size_t>(at)];
-    SetFocus(control);
-    if (control->onHover) {
-        Dispatch(control->onHover);
+    FocusByKey(*ring[static_cast<std::size_t>(at)]);
+}
+
+void Desktop::FocusByKey(Control& control)
+{
+    SetFocus(&control);
+    if (control.onHover) {
+        Dispatch(control.onHover);
     }
 }
 
-void Desktop::MoveWithinForm(bool forward)
+// An option that an arrow reaches is chosen, as everywhere.
+void Desktop::MoveTowards(Direction direction)
 {
-    Control* focus = Focused();
+    const Control* focus = Focused();
     if (focus == nullptr) {
-        MoveFocus(forward);
+        MoveFocus(direction == Direction::Down || direction == Direction::Right);
         return;
     }
-    std::vector<Control*> group;
-    for (Control* control : focus->GetForm().Controls()) {
-        if (control->Focusable() && SameGroup(*control, *focus)) {
-            group.push_back(control);
+    std::vector<Control*> others = TabRing();
+    std::erase_if(others, [&](const Control* control) {
+        const Rect& place = control->Place();
+        const Point middle{place.left + place.width / 2, place.top + place.height / 2};
+        return control == focus || FormAt(middle) != &control->GetForm();  // or covered
+    });
+    std::vector<Rect> places(others.size());
+    const auto placeOf = [](const Control* control) { return control->Place(); };
+    std::transform(others.begin(), others.end(), places.begin(), placeOf);
+    std::optional<std::size_t> next = NearestTowards(focus->Place(), places, direction);
+    if (!next) {
+        for (std::size_t i = 0; i < others.size(); ++i) {
+            places[i] = &others[i]->GetForm() == &focus->GetForm() ? places[i] : Rect{};
+        }
+        next = RoundFromBehind(focus->Place(), places, direction);
+    }
+    if (next) {
+        Control& control = *others[*next];
+        FocusByKey(control);
+        if (control.GetKind() == Control::Kind::OptionButton) {
+            Run(control);
         }
     }
-    const auto size = group.size();
-    const auto at = static_cast<std::size_t>(std::find(group.begin(), group.end(), focus) - group.begin());
-    Control* next = group[(at + (forward ? 1 : size - 1)) % size];
-    if (next == focus) {
+}
+
+void Desktop::JumpTo(char32_t letter)
+{
+    const Form* form = FrontForm();
+    if (form == nullptr || FocusedTextBox() != nullptr) {
         return;
     }
-    SetFocus(next);
-    if (next->onHover) {
-        Dispatch(next->onHover);
+    std::vector<Control*> found;
+    std::copy_if(form->Controls().begin(), form->Controls().end(), std::back_inserter(found),
+                 [letter](const Control* control) {
+                     return control->Focusable() &&
+                            SmallLetter(FirstLetter(control->Text())) == SmallLetter(letter);
+                 });
+    if (!found.empty()) {
+        const auto at = std::find(found.begin(), found.end(), Focused());
+        SetKeyboardUsed(true);
+        SetHovered(nullptr);
+        FocusByKey(at == found.end() || at + 1 == found.end() ? *found.front() : **(at + 1));
     }
-    if (next->GetKind() == Control::Kind::OptionButton) {
-        Run(*next);
+}
+
+// Past screens that have gone too: from the bank over the taxes to the menu's command.
+Control* Desktop::WhereItCameFrom(const Form* form) const
+{
+    constexpr int kFarEnough = 8;  // screens that open each other in turn
+    for (int i = 0; i < kFarEnough; ++i) {
+        const auto found = cameFrom_.find(form);
+        if (found == cameFrom_.end()) {
+            return nullptr;
+        }
+        if (found->second->Focusable() && TakesInput(found->second->GetForm())) {
+            return found->second;
+        }
+        form = &found->second->GetForm();
     }
+    return nullptr;
 }
 
 std::string Desktop::Clipboard() const
@@ -242,20 +309,21 @@ void Desktop::PressKey(Key key, Modifiers modifiers)
         MoveFocus(!modifiers.shift);
         return;
     case Key::Up:
-    case Key::Left:
-        SetHovered(nullptr);
-        MoveWithinForm(false);
-        return;
     case Key::Down:
+    case Key::Left:
     case Key::Right:
         SetHovered(nullptr);
-        MoveWithinForm(true);
+        MoveTowards(TowardsBy(key));
         return;
     default:
         break;
     }
+    const Form* left = key == Key::Escape ? FrontForm() : nullptr;
     if (!PressOnFocus(key) && !PressOnForm(key) && onKey) {
         onKey(key);
+    }
+    if (left != nullptr && !left->Visible() && Focused() == nullptr) {
+        SetFocus(WhereItCameFrom(left));
     }
     SetKeyboardUsed(true);  // also when the key has clicked a button for the player
 }

@@ -76,17 +76,57 @@ TEST_F(Keyboard, TabWithNothingToReachStaysHarmless)
     EXPECT_THAT(Walk(Key::Down, 2), ElementsAre("", ""));
 }
 
-TEST_F(Keyboard, ArrowsWalkWithinControlsOfOneKind)
+TEST_F(Keyboard, ArrowsMoveAsTheEyeDoes)
 {
     bar.Show();
     EXPECT_THAT(Walk(Key::Right, 4), ElementsAre("Item(0)", "Item(1)", "Item(2)", "Item(0)"));
-    EXPECT_THAT(Walk(Key::Up, 1), ElementsAre("Item(2)"));
+    EXPECT_THAT(Walk(Key::Up, 1), ElementsAre("Item(0)")) << "nothing stands there";
     sheet.Show();
     desktop.SetFocus(&sheet.low);
-    EXPECT_THAT(Walk(Key::Down, 2), ElementsAre("Option2", "Option1")) << "the options, not the buttons";
+    EXPECT_THAT(Walk(Key::Down, 3), ElementsAre("Option2", "Command1", "Option1"));
     EXPECT_TRUE(sheet.low.Now().chosen) << "an option that the arrows reach is chosen";
+    EXPECT_THAT(Walk(Key::Up, 1), ElementsAre("Item(1)")) << "to the screen that stands above";
     desktop.SetFocus(&sheet.no);
-    EXPECT_THAT(Walk(Key::Left, 1), ElementsAre("Command1")) << "alone: the other button is disabled";
+    EXPECT_THAT(Walk(Key::Right, 1), ElementsAre("Command1")) << "alone: the other button is disabled";
+    sheet.yes.SetEnabled(true);
+    EXPECT_THAT(Walk(Key::Right, 2), ElementsAre("Command2", "Command1"));
+}
+
+TEST_F(Keyboard, LettersJumpToTheButtonsThatBeginWithThem)
+{
+    bar.Show();
+    sheet.Show();
+    sheet.yes.SetEnabled(true);
+    const struct {
+        char32_t letter;
+        const char* focus;
+    } cases[] = {{U'y', "Command2"}, {U'N', "Command1"}, {U'n', "Command1"},
+                 {U'l', "Option1"},  {U'x', "Option1"},  {U'f', "Option1"}};
+    for (const auto& c : cases) {
+        desktop.JumpTo(c.letter);
+        EXPECT_EQ(FocusName(), c.focus) << static_cast<char>(c.letter);
+    }
+    EXPECT_FALSE(sheet.low.Now().chosen) << "what is looked for is not yet pressed";
+    sheet.no.SetText("Yonder");
+    desktop.JumpTo(U'y');
+    desktop.JumpTo(U'y');
+    desktop.JumpTo(U'y');
+    EXPECT_EQ(FocusName(), "Command1") << "round all that begin so";
+}
+
+TEST_F(Keyboard, EscapeTakesTheFocusBackToWhereItCameFrom)
+{
+    bar.Show();
+    Walk(Key::Tab, 2);
+    bar.items[1].onClick = [this] { sheet.Show(); };
+    sheet.initialFocus = &sheet.no;
+    sheet.no.onClick = [this] { sheet.Hide(), ask.Show(); };
+    ask.cancel.onClick = [this] { ask.Hide(); };
+    desktop.Press(Key::Return);
+    desktop.Press(Key::Return);
+    EXPECT_EQ(FocusName(), "Text1");
+    desktop.Press(Key::Escape);
+    EXPECT_EQ(FocusName(), "Item(1)") << "past the sheet, which has gone too";
 }
 
 TEST_F(Keyboard, ReturnAndSpacePressWhatHasTheFocus)

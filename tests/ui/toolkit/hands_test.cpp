@@ -107,4 +107,105 @@ TEST_F(Hands, CommandTheMenuWithADigitThatIsNothingElse)
     }
 }
 
+// The story tells when the timers fired, in milliseconds of the player's time.
+TEST_F(Hands, EndAPauseFromItsSecondSecondOn)
+{
+    const struct {
+        const char* why;
+        ui::Pauses pauses;
+        std::function<void()> press;
+        std::int64_t at;  // when it is pressed
+        std::vector<std::string> story;
+    } cases[] = {
+        {"full", ui::Pauses::Full, [] {}, 500, {"first 3000", "second 4000"}},
+        {"short", ui::Pauses::Short, [] {}, 500, {"first 1000", "second 1400"}},
+        {"by click, and none comes", ui::Pauses::ByClick, [] {}, 500, {}},
+        {"by click",
+         ui::Pauses::ByClick,
+         [this] {
+             Click({400, 400}, 1);
+         },
+         1200,
+         {"first 1200"}},
+        {"a click on the ground",
+         ui::Pauses::Full,
+         [this] {
+             Click({400, 400}, 1);
+         },
+         1000,
+         {"first 1000", "second 2000"}},
+        {"a double click ends one",
+         ui::Pauses::Full,
+         [this] {
+             Click({400, 400}, 2);
+         },
+         1100,
+         {"first 1100", "second 2100"}},
+        {"Return",
+         ui::Pauses::Full,
+         [this] { hands.Press(Key::Return); },
+         1100,
+         {"first 1100", "second 2100"}},
+        {"Space", ui::Pauses::Full, [this] { hands.Press(Key::Space); }, 1100, {"first 1100", "second 2100"}},
+        {"Escape",
+         ui::Pauses::Full,
+         [this] { hands.Press(Key::Escape); },
+         1100,
+         {"first 1100", "second 2100"}},
+        {"too early",
+         ui::Pauses::Full,
+         [this] { hands.Press(Key::Return); },
+         900,
+         {"first 3000", "second 4000"}},
+        {"another key",
+         ui::Pauses::Full,
+         [this] { hands.Press(Key::Tab); },
+         1100,
+         {"first 3000", "second 4000"}},
+        {"a click on the menu",
+         ui::Pauses::Full,
+         [this] {
+             Click({50, 20}, 1);
+         },
+         1100,
+         {"first 3000", "second 4000"}},
+        {"something can be answered",
+         ui::Pauses::Full,
+         [this] {
+             sheet.Show();
+             Click({700, 500}, 1);
+             hands.Press(Key::Return);
+         },
+         1100,
+         {"first 3000", "second 4000"}},
+    };
+    desktop.onKey = {};
+    back.Show();
+    back.SetEnabled(false);
+    bar.SetEnabled(false);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.why);
+        story.clear();
+        std::int64_t passed = 0;
+        bar.first.onTimer = [&] {
+            story.push_back("first " + std::to_string(passed));
+            bar.second.SetInterval(1000);
+        };
+        bar.second.onTimer = [&] { story.push_back("second " + std::to_string(passed)); };
+        desktop.pauses = c.pauses;
+        bar.first.SetInterval(3000);
+        while (passed < 6000) {
+            passed += 100;
+            hands.LetTimePass(100);
+            if (passed == c.at) {
+                c.press();
+            }
+        }
+        EXPECT_EQ(story, c.story);
+        bar.first.SetInterval(0);
+        bar.second.SetInterval(0);
+        sheet.Hide();
+    }
+}
+
 }  // namespace

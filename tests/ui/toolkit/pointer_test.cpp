@@ -157,4 +157,27 @@ TEST_F(Pointer, ChoosesOneOptionOfAScreen)
     EXPECT_THAT(story, ElementsAre("low", "sheet")) << "one without a handler of its own is its screen's";
 }
 
+TEST_F(Pointer, ShowsWhatCanBePressed)
+{
+    using Shape = ui::PointerShape;
+    sheet.onClick = {};
+    const struct {
+        const char* why;
+        Point at;
+        Shape shape;
+    } cases[] = {
+        {"a button", kNo, Shape::Hand},         {"a disabled one", kYes, Shape::Arrow},
+        {"an option", {120, 160}, Shape::Hand}, {"an item of the menu", {50, 20}, Shape::Hand},
+        {"the sheet", kSheet, Shape::Arrow},    {"nobody's place", {-5, 700}, Shape::Arrow},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(desktop.ShapeAt(c.at), c.shape) << c.why;
+    }
+    sheet.onClick = Tells("sheet");
+    EXPECT_EQ(desktop.ShapeAt(kSheet), Shape::Hand) << "one big button";
+    ask.ShowModal();
+    EXPECT_EQ(desktop.ShapeAt({170, 210}), Shape::Text);
+    EXPECT_EQ(desktop.ShapeAt({50, 20}), Shape::Arrow) << "behind a question";
+}
+
 }  // namespace
