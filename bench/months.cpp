@@ -11,7 +11,7 @@ public:
     void PlayWave(std::string_view /*file*/) override {}
     void SwitchDisplayMode() override {}
     void RestoreDisplayMode() override {}
-    void OpenDocument(std::string_view /*file*/) override {}
+    void OpenDocument(std::string_view /*file*/, std::string_view /*chapter*/) override {}
     void EndProgram() override {}
 };
 

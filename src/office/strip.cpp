@@ -27,13 +27,14 @@ std::string_view WordOf(const Warning& warning)
 }
 
 // Where each of the words stands: a cell is as wide as its word, and all of them are narrower when three long ones
-// would not fit otherwise. In pixels a letter, at the larger and the smaller size of the style.
-std::vector<ui::Rect> WarningPlaces(const std::vector<Warning>& warnings)
+// would not fit otherwise. In pixels a letter, at the larger and the smaller size of the style. Where even that is
+// too long the least grave gives way, but for the missing report.
+std::vector<ui::Rect> WarningPlaces(std::vector<Warning>& warnings)
 {
     constexpr int kMarkWidth = 26;
     constexpr int kGap = 6;
     constexpr int kSizes = 2;
-    constexpr std::array<int, kSizes> kTenLetters{88, 68};
+    constexpr std::array<int, kSizes> kTenLetters{88, 78};
     std::vector<ui::Rect> places;
     for (const int tenLetters : kTenLetters) {
         places.clear();
@@ -44,10 +45,11 @@ std::vector<ui::Rect> WarningPlaces(const std::vector<Warning>& warnings)
             x += width + kGap;
         }
         if (x - kGap <= kStripWarningCell.Right()) {
-            break;
+            return places;
         }
     }
-    return places;
+    warnings.erase(warnings.end() - (warnings.back().alarm == Alarm::NoReport ? 2 : 1));
+    return WarningPlaces(warnings);
 }
 
 }  // namespace
@@ -119,7 +121,7 @@ void StatusStrip::ShowFavour(const Strip& facts)
     }
 }
 
-void StatusStrip::ShowWarnings(const Strip& facts)
+void StatusStrip::ShowWarnings(Strip facts)
 {
     screens::FrmStrip& strip = screens_.frmStrip;
     const bool quiet = strip.lblLine.Text().empty() || strip.lblLine.Text() == kCalm;

@@ -32,7 +32,7 @@ private:
     bool HasThePlace() const;
     void ShowFigures(const Strip& facts);
     void ShowFavour(const Strip& facts);
-    void ShowWarnings(const Strip& facts);
+    void ShowWarnings(Strip facts);
 
     const core::GameState& state_;
     const ui::Desktop& desktop_;

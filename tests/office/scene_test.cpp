@@ -71,10 +71,11 @@ TEST(Scene, MessagesAreReadableWhateverLiesBehindThem)
     }
 }
 
+// Of what lies between the menu and the desk's edge, which have lights of their own.
 std::uint32_t Fingerprint(const SDL_Surface& surface)
 {
     std::uint32_t sum = 0;
-    for (int y = 0; y < surface.h; ++y) {
+    for (int y = 50; y < 560; ++y) {
         for (int x = 0; x < surface.w; ++x) {
             sum = sum * 31 + test::PixelAt(surface, x, y);
         }
@@ -104,7 +105,7 @@ TEST(Scene, ChangesWhollyAndTogether)
     const std::uint32_t welcome = paint();
     EXPECT_EQ(welcome, afresh());
     EXPECT_NE(test::PixelAt(*surface, 10, 300), 0U) << "the wall goes on beside the screen";
-    game.Press(ui::Key::F1);
+    game.Press(ui::Key::Home);
     EXPECT_NE(paint(), welcome) << "a key folds the message";
     game.Screens().frmMonthBanner.Label1.SetFolded(false);
     EXPECT_EQ(paint(), welcome);
@@ -115,9 +116,10 @@ TEST(Scene, ChangesWhollyAndTogether)
 
     auto& screens = game.Screens();
     screens.frmMain.SetEnabled(false);
+    const std::uint32_t waiting = paint();
     game.Set({{"War", 1}});
     const std::uint32_t during = paint();
-    EXPECT_EQ(during, read) << "a story that is not told yet does not show";
+    EXPECT_EQ(during, waiting) << "a story that is not told yet does not show";
     screens.frmMain.SetEnabled(true);
     screens.frmMain.Show();
     EXPECT_NE(paint(), read) << "it does when the menu is given back";

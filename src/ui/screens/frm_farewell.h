@@ -54,6 +54,7 @@ struct FrmFarewell : ui::Form {
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
+        cancelButton = &Command1;
     }
 
     ui::Picture Image1{*this, "Image1", {38, 262, 476, 182}, "", look::kPicture,

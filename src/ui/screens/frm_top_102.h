@@ -73,9 +73,13 @@ constexpr auto HallDecor(int height)
                          .color = look::kBrass};
     }
     const bool foot = height == kHallShortHeight;
-    const ui::Rect strip{9, 552, 777, foot ? 34 : 0};
-    decor[next++] = {.kind = ui::Decor::Kind::Fill, .rect = strip, .color = look::kInk};
-    decor[next++] = {.kind = ui::Decor::Kind::Fill, .rect = {9, 551, 777, foot ? 2 : 0}, .color = look::kOchre};
+    constexpr ui::Rect kNowhere{-9, -9, 1, 1};
+    decor[next++] = {.kind = ui::Decor::Kind::Fill,
+                     .rect = foot ? ui::Rect{9, 552, 777, 34} : kNowhere,
+                     .color = look::kInk};
+    decor[next++] = {.kind = ui::Decor::Kind::Fill,
+                     .rect = foot ? ui::Rect{9, 551, 777, 2} : kNowhere,
+                     .color = look::kOchre};
     return decor;
 }
 inline constexpr auto kHallDecor = HallDecor(kHallRowsHeight);
@@ -100,7 +104,7 @@ struct FrmTop102 : ui::Form {
     ui::ControlArray<ui::Label> Label1{*this, "Label1", kHallSentenceRows};
     // Who is not among the ten reads why.
     ui::Label Label5{*this, "Label5", {68, 553, 700, 32}, "", look::kHallFoot,
-        {.visible = false, .mark = ui::Mark::Down}};
+        {.visible = false, .back = look::kInk, .mark = ui::Mark::Down}};
 };
 
 }  // namespace screens

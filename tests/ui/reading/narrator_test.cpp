@@ -89,7 +89,7 @@ TEST_F(Narration, AnswersEveryKey)
         {Key::F6, "Page Down: the next line.\n"},
         {Key::F8, "(rate 20)\nFaster.\n"},
         {Key::F9, "(silence)\n"},
-        {Key::Escape, "Nothing happens.\n"},
+        {Key::Escape, "The menu.\nTaxes and budget, key 2"},
         {Key::Digit5, "You are in power for 2 months.\n"},
     };
     for (const auto& step : steps) {

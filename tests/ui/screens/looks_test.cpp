@@ -26,6 +26,15 @@ protected:
 // Texts that share a place by design.
 const std::map<std::pair<std::string, std::string>, const char*> kShared{
     {{"frmTop102.Label6", "frmTop102.Label3"}, "a trouble is pasted over the title"},
+    {{"frmTop102.Label1(9)", "frmTop102.Label5"}, "the rows move up when the foot speaks"},
+    {{"frmStrip.Label1", "frmStrip.lblMonth"},
+     "a value stands close under its caption: the lines meet, the ink does not"},
+    {{"frmStrip.Label2", "frmStrip.lblMoney"}, "the same"},
+    {{"frmStrip.Label3", "frmStrip.lblBalance"}, "the same"},
+    {{"frmStrip.Label4", "frmStrip.lblFavour"}, "the same"},
+    {{"frmStrip.lblWarning(0)", "frmStrip.lblLine"}, "the line and the warnings take turns"},
+    {{"frmStrip.lblWarning(1)", "frmStrip.lblLine"}, "the same"},
+    {{"frmStrip.lblWarning(2)", "frmStrip.lblLine"}, "the same"},
 };
 
 // Screens whose keys do not go row by row.
