@@ -176,7 +176,9 @@ void Painter::PaintForm(Brush& brush, const ui::Desktop& desktop, const ui::Form
     std::vector<const ui::Control*> touched;
     for (const ui::Control* control : form.Controls()) {
         const ui::Rect reach = Union(control->Place(), control->Row()).Grown(kControlReach);
-        if (!control->Now().visible || !brush.canvas.Touches(reach) || Covered(desktop, *control)) {
+        const bool folds = control->Style().ornament == ui::Ornament::Message;  // and stands elsewhere then
+        if (!control->Now().visible || !(folds || brush.canvas.Touches(reach)) ||
+            Covered(desktop, *control)) {
             continue;
         }
         if (IsGround(*control)) {
