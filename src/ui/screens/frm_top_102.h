@@ -73,13 +73,13 @@ constexpr auto HallDecor(int height)
                          .color = look::kBrass};
     }
     const bool foot = height == kHallShortHeight;
-    constexpr ui::Rect kNowhere{-9, -9, 1, 1};
+    constexpr ui::Rect kNowhere{9, 551, 1, 1};
     decor[next++] = {.kind = ui::Decor::Kind::Fill,
                      .rect = foot ? ui::Rect{9, 552, 777, 34} : kNowhere,
                      .color = look::kInk};
     decor[next++] = {.kind = ui::Decor::Kind::Fill,
                      .rect = foot ? ui::Rect{9, 551, 777, 2} : kNowhere,
-                     .color = look::kOchre};
+                     .color = foot ? look::kOchre : look::kInk};
     return decor;
 }
 inline constexpr auto kHallDecor = HallDecor(kHallRowsHeight);
