@@ -200,8 +200,10 @@ std::optional<std::string> Narrator::Echo()
 void Narrator::Notice(ui::Cause cause)
 {
     std::vector<std::string> lines;
-    for (const ui::Form* form : desktop_.Shown()) {  // the banner first
-        NoticeForm(*form, lines);
+    for (const ui::Form* form : desktop_.Shown()) {  // the banner first; the desk's edge is read when asked for
+        if (!form->GetDesign().fixture) {
+            NoticeForm(*form, lines);
+        }
     }
     if (const std::optional<std::string> echo = Echo()) {
         Append(lines, Lines(*echo));
@@ -233,7 +235,7 @@ const ui::Form* Narrator::Front() const
 {
     const std::vector<ui::Form*>& shown = desktop_.Shown();
     const auto front = std::find_if(shown.rbegin(), shown.rend(), [](const ui::Form* form) {
-        return form->Enabled() && !form->GetDesign().backdrop;
+        return form->Enabled() && !form->GetDesign().backdrop && !form->GetDesign().fixture;
     });
     return front == shown.rend() ? nullptr : *front;
 }
