@@ -1,7 +1,6 @@
 #include "app/game.h"
 
 #include "app/spoken_strip.h"
-#include "core/banner.h"
 #include "core/society.h"
 
 #include <utility>
@@ -36,33 +35,58 @@ void Game::Start()
     opening_.ShowTitle();
 }
 
+std::vector<shell::Menu::Leftover> Game::Leftovers()
+{
+    constexpr auto kUnloaded = shell::Menu::Leftover::Goes::Unloaded;
+    return {
+        {screens_.frmTaxes},
+        {screens_.frmPolice},
+        {screens_.frmOptions},
+        {screens_.frmBank},
+        {screens_.frmActions},
+        {screens_.frmShow},
+        {screens_.frmPolc},
+        {screens_.frmArmyC},
+        {screens_.frmArmy},
+        {screens_.frmSave, kUnloaded},
+        {screens_.frmLoad, kUnloaded},
+        {screens_.frmHistory},
+        {screens_.frmWAR},
+        {screens_.frmGameLoaded},
+        {screens_.frmAIN, kUnloaded},
+        {screens_.frmTop102},
+        {screens_.frmPrRev},
+        {screens_.frmNewspaper},
+    };
+}
+
 void Game::WireMenu()
 {
     menu_.commands[screens::kMenuActions] = [this] { actions_.Open(); };
     menu_.commands[screens::kMenuTaxes] = [this] { taxes_.Open(); };
     menu_.commands[screens::kMenuPolice] = [this] { police_.Open(); };
     menu_.commands[screens::kMenuArmy] = [this] { army_.Open(); };
-    menu_.commands[screens::kMenuNextMonth] = [this] { monthEnd_.EndOfTurn(); };
+    menu_.commands[screens::kMenuNextMonth] = [this] { month_.NextMonth(); };
     menu_.commands[screens::kMenuOptions] = [this] { options_.Open(); };
 }
 
-// The month's events in the order in which they are tried.
+// The month's events in the order in which they are tried; the first that happens is the month's story.
 void Game::WireMonth()
 {
-    chain_.cia = [this] { proposals_.ShowCia(); };
-    chain_.war = [this] { war_.CheckVictory(); };
-    chain_.prisoners = [this] { revolts_.Prisoners(); };
-    chain_.guerillas = [this] { revolts_.Guerillas(); };
-    chain_.otherwise = [this] { coups_.ChiefCoup(); };
-    coups_.otherwise = [this] { rebellion_.Revolution(); };
-    rebellion_.otherwise = [this] { assassination_.AssasinThink(); };
-    assassination_.otherwise = [this] { surprises_.RandomEvents(); };
-
-    coups_.revolutionStart = [this] { rebellion_.RevolutionStart(); };
-    chain_.assassination = [this] { assassination_.AfterTheWarning(); };
+    chain_.links = {
+        [this] { return proposals_.CiaStrikes(); },
+        [this] { return war_.WarIsDecided(); },
+        [this] { return revolts_.PrisonersRise(); },
+        [this] { return revolts_.GuerrillasRise(); },
+        [this] { return coups_.ChiefCoup(); },
+        [this] { return revolution_.BreaksOut(); },
+        [this] { return assassination_.AssasinThink(); },
+        [this] { return randomEvents_.Happen(); },
+    };
+    chain_.request = [this] { requests_.Request(); };
+    chain_.attempt = [this] { assassination_.AfterTheWarning(); };
     chain_.hallOfFame = [this] { hall_.TopTen(); };
-    surprises_.endOfTurn2 = [this] { monthEnd_.EndOfTurn2(); };
-    proposals_.endOfTurn2 = [this] { monthEnd_.EndOfTurn2(); };
+    coups_.revolutionStart = [this] { revolution_.RevolutionStart(); };
 }
 
 void Game::WireShell()
@@ -116,12 +140,14 @@ void Game::WireKeys()
     };
 }
 
+// A link of the chain that is called by its name goes on with those behind it.
 void Game::ListRoutines()
 {
+    using month::Link;
     routines_ = {
         {"FixNum", [this] { core::FixNum(state_); }},
-        {"EndOfTurn", [this] { monthEnd_.EndOfTurn(); }},
-        {"EndOfTurn2", [this] { monthEnd_.EndOfTurn2(); }},
+        {"EndOfTurn", [this] { month_.EndOfTurn(); }},
+        {"EndOfTurn2", [this] { month_.EndOfTurn2(); }},
         {"Initialize", [this] { newGame_.Initialize(); }},
         {"CreateChiefs", [this] { newGame_.CreateChiefs(); }},
         {"frmTaxes.Ref", [this] { taxes_.Ref(); }},
@@ -129,7 +155,7 @@ void Game::ListRoutines()
         {"frmPolice.Ref", [this] { police_.Ref(); }},
         {"NewPoliceChief", [this] { chiefs_.NewPoliceChief(); }},
         {"NewArmyChief", [this] { chiefs_.NewArmyChief(); }},
-        {"ChiefCoup", [this] { coups_.ChiefCoup(); }},
+        {"ChiefCoup", [this] { chain_.From(Link::Coup); }},
         {"SwitchDisplayMode", [this] { display_.SwitchDisplayMode(); }},
         {"RestoreDisplayMode", [this] { display_.RestoreDisplayMode(); }},
         {"ShowAction", [this] { actionCards_.ShowAction(); }},
@@ -138,14 +164,14 @@ void Game::ListRoutines()
         {"ShowAction2", [this] { requests_.ShowAction2(); }},
         {"MakeRequest", [this] { requests_.MakeRequest(); }},
         {"DontMakeRequest", [this] { requests_.DontMakeRequest(); }},
-        {"RandomEvents", [this] { surprises_.RandomEvents(); }},
+        {"RandomEvents", [this] { chain_.From(Link::RandomEvent); }},
         {"Deal", [this] { proposals_.Deal(); }},
         {"Never", [this] { proposals_.Never(); }},
         {"AmericanAid", [this] { proposals_.AmericanAid(); }},
-        {"AssasinThink", [this] { assassination_.AssasinThink(); }},
+        {"AssasinThink", [this] { chain_.From(Link::Assassination); }},
         {"AssasinTry", [this] { assassination_.AssasinTry(); }},
-        {"Revolution", [this] { rebellion_.Revolution(); }},
-        {"RevolutionStart", [this] { rebellion_.RevolutionStart(); }},
+        {"Revolution", [this] { chain_.From(Link::Revolution); }},
+        {"RevolutionStart", [this] { revolution_.RevolutionStart(); }},
         {"Guerillas", [this] { revolts_.Guerillas(); }},
         {"Prisoners", [this] { revolts_.Prisoners(); }},
         {"Choose", [this] { civilWar_.Choose(); }},

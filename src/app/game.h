@@ -11,9 +11,6 @@
 #include "core/chance.h"
 #include "core/game_state.h"
 #include "core/journal.h"
-#include "core/month_chain.h"
-#include "core/month_end.h"
-#include "core/new_game.h"
 #include "core/numbers.h"
 #include "events/action_cards.h"
 #include "events/newspaper.h"
@@ -31,6 +28,9 @@
 #include "instruments/taxes.h"
 #include "media/cues.h"
 #include "media/host.h"
+#include "month/chain.h"
+#include "month/month.h"
+#include "month/new_game.h"
 #include "office/backdrop.h"
 #include "shell/army.h"
 #include "shell/display.h"
@@ -44,8 +44,8 @@
 #include "threats/civil_war.h"
 #include "threats/flight.h"
 #include "threats/intelligence.h"
-#include "threats/rebellion.h"
 #include "threats/revolts.h"
+#include "threats/revolution.h"
 #include "threats/war_outcome.h"
 #include "ui/reading/narrator.h"
 #include "ui/screens/screens.h"
@@ -56,6 +56,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class Game {
 public:
@@ -72,6 +73,7 @@ public:
     core::GameState& State() { return state_; }
     core::Chance& GetChance() { return chance_; }
     core::Journal& GetJournal() { return journal_; }
+    month::Month& GetMonth() { return month_; }
     const files::ProgramFolder& Folder() const { return folder_; }
     // Silent until it is switched on and given a voice.
     reading::Narrator& GetNarrator() { return narrator_; }
@@ -80,6 +82,7 @@ public:
     const std::function<void()>* FindRoutine(std::string_view name) const;
 
 private:
+    std::vector<shell::Menu::Leftover> Leftovers();
     void WireMenu();
     void WireMonth();
     void WireEvents();
@@ -101,43 +104,88 @@ private:
     media::Sound sound_{host_};
 
     // The month.
-    core::NewGame newGame_{state_, chance_, folder_, screens_.frmMain, screens_.frmMonthBanner};
-    core::MonthEnd monthEnd_{state_, chance_, journal_, screens_.frmMain, screens_.frmMonthBanner};
-    core::MonthChain chain_{state_, screens_.frmMain, screens_.frmMonthBanner};
+    month::Month month_{state_, chance_, journal_, screens_.frmMain, screens_.frmMonthBanner};
+    month::NewGame newGame_{state_, chance_, folder_, month_, screens_.frmMain, screens_.frmMonthBanner};
+    month::Chain chain_{state_, month_, screens_.frmMain, screens_.frmMonthBanner};
 
     // Events and requests.
-    events::Newspaper newspaper_{state_, screens_.frmNewspaper, screens_.frmMain, sound_};
-    events::Proposals proposals_{state_, screens_, sound_, format_, newspaper_};
-    events::Requests requests_{state_, chance_, folder_, screens_, sound_};
-    events::Surprises surprises_{state_, chance_, screens_, sound_, format_, newspaper_, requests_};
-    events::ActionCards actionCards_{state_, folder_, screens_, sound_, proposals_};
+    events::Newspaper newspaper_{state_, month_, screens_.frmNewspaper, sound_};
+    events::Proposals proposals_{
+        state_,    journal_,
+        month_,    {screens_.frmMain, screens_.frmMonthBanner, screens_.frmRandom2, screens_.frmUSA},
+        sound_,    format_,
+        newspaper_};
+    events::Requests requests_{
+        state_, chance_, journal_, month_, folder_, screens_.frmMonthBanner, screens_.frmShow2, sound_};
+    events::RandomEvents randomEvents_{state_, chance_, journal_,  month_, screens_.frmRandom2,
+                                       sound_, format_, newspaper_};
+    events::ActionCards actionCards_{
+        state_, journal_,  folder_, {screens_.frmMonthBanner, screens_.frmActions, screens_.frmShow},
+        sound_, proposals_};
 
     // The threats.
-    threats::Flight flight_{state_, chance_, screens_.frmMain, screens_.frmMonthBanner, sound_};
-    threats::CivilWar civilWar_{state_, chance_, monthEnd_, folder_, screens_, sound_, format_, flight_};
-    threats::Rebellion rebellion_{state_, chance_, screens_, sound_, flight_, civilWar_};
-    threats::Revolts revolts_{state_, screens_, sound_, flight_, civilWar_};
-    threats::Assassination assassination_{state_, chance_, monthEnd_, screens_, sound_};
-    threats::WarOutcome war_{state_, chance_, monthEnd_, screens_};
+    threats::Flight flight_{state_, chance_, journal_, screens_.frmMain, screens_.frmMonthBanner, sound_};
+    threats::CivilWar civilWar_{
+        state_, chance_, journal_,
+        month_, folder_, {screens_.frmMain, screens_.frmMonthBanner, screens_.frmChoose, screens_.frmMes2},
+        sound_, format_, flight_};
+    threats::Revolution revolution_{state_,          chance_, journal_, screens_.frmMonthBanner,
+                                    screens_.frmRev, sound_,  flight_,  civilWar_};
+    threats::Revolts revolts_{
+        state_, journal_, {screens_.frmMonthBanner, screens_.frmGRev, screens_.frmPrRev},
+        sound_, flight_,  civilWar_};
+    threats::Assassination assassination_{
+        state_,
+        chance_,
+        journal_,
+        month_,
+        {screens_.frmMain, screens_.frmMonthBanner, screens_.frmMes, screens_.frmAFailed, screens_.frmMes1},
+        sound_};
+    threats::WarOutcome war_{state_, chance_, journal_, month_, screens_.frmMonthBanner, screens_.frmWAR};
     threats::Intelligence intelligence_{state_, screens_.frmArmy, screens_.frmAIN};
 
     // The shell.
     shell::Display display_{state_, host_};
-    shell::Manual manual_{folder_, host_, desktop_, screens_};
-    shell::Opening opening_{state_, screens_, sound_, host_, display_, manual_};
+    shell::Manual manual_{
+        folder_, host_, desktop_, {screens_.frmStart, screens_.frmMain, screens_.frmMonthBanner}};
+    shell::Opening opening_{state_,
+                            {screens_.frmlogo, screens_.frmStart, screens_.frmName, screens_.frmAbout,
+                             screens_.frmMonthBanner, screens_.frmMain},
+                            sound_,
+                            host_,
+                            display_,
+                            manual_};
     shell::ArmyScreen army_{state_, screens_.frmArmy};
-    shell::SavedGames savedGames_{state_, desktop_, screens_, sound_, written_, format_};
-    shell::Hall hall_{state_, desktop_, screens_, written_, format_};
-    shell::Options options_{state_, screens_, sound_, host_, format_, display_, manual_, savedGames_, hall_};
-    shell::Menu menu_{screens_, sound_};
+    shell::SavedGames savedGames_{
+        state_,
+        desktop_,
+        {screens_.frmSave, screens_.frmLoad, screens_.frmGameLoaded, screens_.frmMonthBanner},
+        sound_,
+        written_,
+        format_};
+    shell::HallScreen hall_{
+        state_,   month_,
+        desktop_, {screens_.frmTop102, screens_.frmMonthBanner, screens_.frmlogo, screens_.frmStart},
+        written_, format_};
+    shell::Options options_{state_,  {screens_.frmOptions, screens_.frmHistory, screens_.frmAbout},
+                            sound_,  host_,
+                            format_, display_,
+                            manual_, savedGames_,
+                            hall_};
+    shell::Menu menu_{screens_.frmMain, screens_.frmMonthBanner, Leftovers(), sound_};
 
     // The president's instruments.
-    instruments::Actions actions_{state_, screens_, sound_};
+    instruments::Actions actions_{state_, screens_.frmActions, screens_.frmMonthBanner, sound_};
     instruments::Bank bank_{state_, screens_.frmBank, screens_.frmMonthBanner, sound_, format_};
     instruments::Taxes taxes_{state_, screens_.frmTaxes, bank_, sound_, format_};
     instruments::PoliceReport police_{state_, screens_.frmPolice, screens_.frmMonthBanner, format_};
-    instruments::Chiefs chiefs_{state_, newGame_, screens_, sound_};
-    instruments::Coups coups_{state_, chance_, screens_.frmMes3, sound_};
+    instruments::Chiefs chiefs_{
+        state_,
+        journal_,
+        newGame_,
+        {screens_.frmMonthBanner, screens_.frmPolice, screens_.frmPolc, screens_.frmArmy, screens_.frmArmyC},
+        sound_};
+    instruments::Coups coups_{state_, chance_, journal_, screens_.frmMes3, sound_};
 
     // The office behind everything.
     office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};

@@ -10,6 +10,7 @@
 
 #include "core/saturated.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -42,10 +43,29 @@ constexpr Group GroupOfFaction(std::int64_t number)
 }
 
 enum Level : std::int64_t { kEasy = 0, kNormal = 1, kHard = 2 };
+inline constexpr std::size_t kLevels = 3;
+template <class T> using PerLevel = std::array<T, kLevels>;
+
+// A level that there is none of, from a broken saved game, counts as the nearest.
+constexpr std::size_t LevelIndex(std::int64_t level)
+{
+    return static_cast<std::size_t>(std::clamp<std::int64_t>(level, kEasy, kHard));
+}
+
+// What CoupState says.
+enum Coup : std::int64_t {
+    kNoCoup = 0,
+    kArmyChiefRebels = 1,
+    kPoliceChiefRebels = 2,
+    kArmyChiefBeaten = 11,  // he is still to be replaced
+    kPoliceChiefBeaten = 22,
+};
 
 template <class T> using PerGroup = std::array<T, kGroups>;
 template <class T> using PerGroupAndPersonalArmy = std::array<T, kGroups + 1>;
 template <class T> using PerTaxed = std::array<T, kTaxed>;
+template <class T> using PerFaction =
+    std::array<T, kFactions>;  // of std::to_array: a forgotten row does not compile
 template <class T> using PerFactionNumber = std::array<T, kFactions + 1>;
 
 // A cell of the officer tables: empty, a number or a text.
@@ -137,7 +157,30 @@ struct GameState {
     PerFactionNumber<u8> AssassinWait{};  // months before the faction may plot again
     PerFactionNumber<u8> RevolutionWait{};
 
-    // Revolutions, revolts and the civil war.
+    // Revolutions (a faction begins them), revolts (guerrillas or prisoners do) and the civil war. How long
+    // each trace lasts; a game that ends in between leaves them, and the restart clears what must not outlive it:
+    //
+    //   field                   set by                                  cleared by
+    //   RevolutionStarter       Revolution; ChiefCoup (6 or 7)          EndOfTurn
+    //   Revolutionaries         Revolution; ChiefCoup; Guerillas and    EndOfTurn
+    //                           Prisoners (those who join)
+    //   RevolutionaryStrength   RevolutionStart; Guerillas; Prisoners;  EndOfTurn
+    //                           the battle adds its roll
+    //   RevolutionaryPct        RevolutionStart                         EndOfTurn
+    //   ChoiceFaction           Choose                                  the next Choose writes over it
+    //   AllyFaction             frmChoose, an ally's button             the next such button
+    //   AlliedStrength          frmChoose, an ally's button;            EndOfTurn
+    //                           the battle adds its roll
+    //   OutsiderRevolt          Guerillas; Prisoners                    the battle, when it is won
+    //   CoupState    1, 2       ChiefCoup                               the battle, when it is won: to 11, 22
+    //               11, 22      the battle, when it is won              Timer3's second tick: to 0
+    //                                                                   (ChiefCoup begins each month with 0)
+    //   RevolutionWait          the battle, when it is won, unless      EndOfTurn2, month by month
+    //                           OutsiderRevolt
+    //   AttackingFaction        AssasinThink                            the next attempt writes over it
+    //   AttemptStrength         AssasinThink                            frmAFailed, either button
+    //   AssassinWait            AssasinThink                            EndOfTurn2, month by month
+    //   AssassinSoundPlayed     frmMes, "Ooops!"                        "Ooops!", once all four were heard
     u8 RevolutionStarter{};                // faction number, 0 = none
     std::array<u8, 10> Revolutionaries{};  // by faction number: 1 = takes part
     i16 RevolutionaryStrength{};
@@ -146,7 +189,7 @@ struct GameState {
     u8 AllyFaction{};
     PerFactionNumber<u8> ChoiceFaction{};  // the faction behind each button of the help choice
     u8 OutsiderRevolt{};                   // 1: begun by the guerrillas or the prisoners
-    u8 CoupState{};                        // 0 none; 1 army, 2 police chief rebels; 11, 22 put down
+    u8 CoupState{};                        // a Coup
 
     // Assassination.
     std::array<std::array<u8, 2>, 9> AttemptStrength{};  // by faction number; the second column counts

@@ -18,4 +18,18 @@ inline constexpr PerGroupAndPersonalArmy<std::string_view> kGroupNames{
 inline constexpr std::size_t kNeighbours = 3;
 inline constexpr std::array<std::string_view, kNeighbours> kNeighbourNames{"Hermosita", "Feraz", "Descalza"};
 
+// "Workers" .. "Police"; nothing for a number that is no faction's.
+constexpr std::string_view FactionName(std::int64_t number)
+{
+    return number >= 1 && number <= std::int64_t{kFactions} ? kGroupNames[GroupOfFaction(number)]
+                                                            : std::string_view{};
+}
+
+// "Hermosita" .. "Descalza", by War; nothing in peace.
+constexpr std::string_view NeighbourName(std::int64_t war)
+{
+    return war >= 1 && war <= std::int64_t{kNeighbours} ? kNeighbourNames[static_cast<std::size_t>(war - 1)]
+                                                        : std::string_view{};
+}
+
 }  // namespace core

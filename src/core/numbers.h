@@ -32,6 +32,18 @@ struct NumberFormat {
     std::optional<double> ParseAmount(std::string_view text) const;
 };
 
+// A field as a fraction is computed with: exact in double precision.
+constexpr double Real(std::int64_t field)
+{
+    return static_cast<double>(field);
+}
+
+// part as a percentage of whole, 0 while there is no whole.
+constexpr double PercentOf(std::int64_t part, std::int64_t whole)
+{
+    return whole == 0 ? 0 : Real(part) / Real(whole) * 100;
+}
+
 // Plain decimal digits, with a leading minus sign where needed.
 inline std::string Digits(std::int64_t value)
 {

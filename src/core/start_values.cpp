@@ -10,7 +10,7 @@ namespace core {
 namespace {
 
 // A value that may differ by level: Easy, Normal, Hard.
-using ByLevel = std::array<std::int64_t, 3>;
+using ByLevel = PerLevel<std::int64_t>;
 
 constexpr ByLevel Same(std::int64_t value)
 {
@@ -106,7 +106,7 @@ void DrawNeighbours(GameState& state, Chance& chance)
 
 void SetStartValues(GameState& state)
 {
-    const auto level = static_cast<std::size_t>(std::min<std::int64_t>(state.Difficulty, kHard));
+    const std::size_t level = LevelIndex(state.Difficulty);
     state.MonthsInPower = 1;
     state.InitMark = 1;
     state.Money = kStartMoney;

@@ -1,11 +1,12 @@
 #include "events/action_cards.h"
 
-#include "core/banner.h"
+#include "core/actions.h"
 #include "core/cards.h"
 #include "core/numbers.h"
 #include "core/society.h"
 #include "events/card_effects.h"
 #include "events/card_view.h"
+#include "month/banner.h"
 
 #include <string>
 
@@ -22,9 +23,14 @@ std::string CardOf(const core::GameState& state)
 
 }  // namespace
 
-ActionCards::ActionCards(core::GameState& state, const files::ProgramFolder& folder,
-                         screens::Screens& screens, media::Sound& sound, Proposals& proposals)
-    : state_(state), folder_(folder), screens_(screens), sound_(sound), proposals_(proposals)
+ActionCards::ActionCards(core::GameState& state, core::Journal& journal, const files::ProgramFolder& folder,
+                         Screens screens, media::Sound& sound, Proposals& proposals)
+    : state_(state)
+    , journal_(journal)
+    , folder_(folder)
+    , screens_(screens)
+    , sound_(sound)
+    , proposals_(proposals)
 {
     screens.frmShow.Command1.onClick = [this] {
         sound_.SoundClick();
@@ -58,18 +64,19 @@ void ActionCards::MakeAction()
         return;
     }
     core::Apply(card->effects, state_);
-    core::Say(screens_.frmMonthBanner, card->result);
+    month::Say(screens_.frmMonthBanner, card->result);
     ApplyActionEffect(state_.ActionChoice, state_);
+    journal_.Add(core::Kind::Action, core::Who::Nobody, state_.ActionChoice);
 
     const auto finish = [this] { FinishAction(); };
     switch (state_.ActionChoice) {
-    case kSackPoliceChief:
+    case core::kSackPoliceChief:
         newPoliceChief(finish);
         return;
-    case kSackArmyChief:
+    case core::kSackArmyChief:
         newArmyChief(finish);
         return;
-    case kAskForAid:
+    case core::kAskForAid:
         proposals_.AmericanAid();
         break;
     default:

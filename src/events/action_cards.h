@@ -5,10 +5,13 @@
 #pragma once
 
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "events/proposals.h"
 #include "files/program_folder.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_actions.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_show.h"
 
 #include <functional>
 
@@ -16,8 +19,13 @@ namespace events {
 
 class ActionCards {
 public:
-    ActionCards(core::GameState& state, const files::ProgramFolder& folder, screens::Screens& screens,
-                media::Sound& sound, Proposals& proposals);
+    struct Screens {
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::FrmActions& frmActions;
+        screens::FrmShow& frmShow;
+    };
+    ActionCards(core::GameState& state, core::Journal& journal, const files::ProgramFolder& folder,
+                Screens screens, media::Sound& sound, Proposals& proposals);
 
     // The president picks a new chief; what follows is handed over.
     std::function<void(std::function<void()> afterwards)> newPoliceChief;
@@ -31,8 +39,9 @@ private:
     void FinishAction();
 
     core::GameState& state_;
+    core::Journal& journal_;
     const files::ProgramFolder& folder_;
-    screens::Screens& screens_;
+    Screens screens_;
     media::Sound& sound_;
     Proposals& proposals_;
 };

@@ -1,5 +1,6 @@
 #include "events/card_effects.h"
 
+#include "core/actions.h"
 #include "core/numbers.h"
 
 #include <array>
@@ -134,18 +135,24 @@ void BuyHelicopter(GameState& state)
 
 // A step on a budget line also bars the step back for this month.
 struct BudgetStep {
-    std::int64_t action;
+    core::Action action;
     i32 GameState::*line;
     double percent;
-    std::size_t barred;
+    core::Action barred;
 };
 constexpr BudgetStep kBudgetSteps[] = {
-    {1, &GameState::ExpEducation, -10, 2},      {2, &GameState::ExpEducation, 10, 1},
-    {3, &GameState::ExpHealth, -10, 4},         {4, &GameState::ExpHealth, 10, 3},
-    {5, &GameState::ExpAllowances, -10, 6},     {6, &GameState::ExpAllowances, 10, 5},
-    {7, &GameState::ExpArmy, -10, 8},           {8, &GameState::ExpArmy, 10, 7},
-    {9, &GameState::ExpPolice, -10, 10},        {10, &GameState::ExpPolice, 10, 9},
-    {11, &GameState::ExpUnemployment, -10, 12}, {12, &GameState::ExpUnemployment, 10, 11},
+    {core::kCutEducation, &GameState::ExpEducation, -10, core::kRaiseEducation},
+    {core::kRaiseEducation, &GameState::ExpEducation, 10, core::kCutEducation},
+    {core::kCutHealth, &GameState::ExpHealth, -10, core::kRaiseHealth},
+    {core::kRaiseHealth, &GameState::ExpHealth, 10, core::kCutHealth},
+    {core::kCutAllowances, &GameState::ExpAllowances, -10, core::kRaiseAllowances},
+    {core::kRaiseAllowances, &GameState::ExpAllowances, 10, core::kCutAllowances},
+    {core::kCutArmyFunds, &GameState::ExpArmy, -10, core::kRaiseArmyFunds},
+    {core::kRaiseArmyFunds, &GameState::ExpArmy, 10, core::kCutArmyFunds},
+    {core::kCutPoliceFunds, &GameState::ExpPolice, -10, core::kRaisePoliceFunds},
+    {core::kRaisePoliceFunds, &GameState::ExpPolice, 10, core::kCutPoliceFunds},
+    {core::kCutUnemployment, &GameState::ExpUnemployment, -10, core::kRaiseUnemployment},
+    {core::kRaiseUnemployment, &GameState::ExpUnemployment, 10, core::kCutUnemployment},
 };
 
 struct Deed {
@@ -153,9 +160,15 @@ struct Deed {
     void (*apply)(GameState&);
 };
 constexpr Deed kDeeds[] = {
-    {15, SellIsland},       {16, RecruitPersonalArmy}, {17, RunCampaign},
-    {18, AttackGuerrillas}, {19, ExecutePrisoners},    {20, ReleasePrisoners},
-    {21, ArrestEnemies},    {kAskForAid, AskForAid},   {25, BuyHelicopter},
+    {core::kSellIsland, SellIsland},
+    {core::kRecruitGuards, RecruitPersonalArmy},
+    {core::kRunCampaign, RunCampaign},
+    {core::kAttackGuerrillas, AttackGuerrillas},
+    {core::kExecutePrisoners, ExecutePrisoners},
+    {core::kReleasePrisoners, ReleasePrisoners},
+    {core::kArrestEnemies, ArrestEnemies},
+    {core::kAskForAid, AskForAid},
+    {core::kBuyHelicopter, BuyHelicopter},
 };
 
 // Requests ---------------------------------------------------------------------------------------------
@@ -176,7 +189,8 @@ void DisarmTheState(GameState& state)
 {
     state.ExpPolice = ChangedByPercent(state.ExpPolice, -20);
     state.ExpArmy = ChangedByPercent(state.ExpArmy, -20);
-    for (const std::size_t barred : {9U, 10U, 11U, 12U}) {
+    for (const core::Action barred :
+         {core::kCutPoliceFunds, core::kRaisePoliceFunds, core::kCutUnemployment, core::kRaiseUnemployment}) {
         state.ActionDone[barred] = 1;
     }
 }
@@ -185,7 +199,7 @@ void DisarmTheState(GameState& state)
 void SendTheArmy(GameState& state)
 {
     MarchIntoTheMountains(state);
-    state.ActionDone[18] = 1;
+    state.ActionDone[core::kAttackGuerrillas] = 1;
 }
 
 constexpr Deed kRequestDeeds[] = {{2, DisarmTheState}, {3, ReleasePrisoners}, {7, SendTheArmy}};

@@ -7,9 +7,6 @@
 
 namespace events {
 
-// Actions whose effect does not end here: somebody else has to decide first.
-enum Action : std::int64_t { kSackPoliceChief = 13, kSackArmyChief = 14, kAskForAid = 24 };
-
 // The built-in effect of action 1 .. 25; most of those of chiefs and Americans lie elsewhere.
 void ApplyActionEffect(std::int64_t action, core::GameState& state);
 

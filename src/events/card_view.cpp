@@ -1,6 +1,7 @@
 #include "events/card_view.h"
 
-#include "core/banner.h"
+#include "month/banner.h"
+
 #include "ui/look/look.h"
 
 #include <string>
@@ -33,8 +34,8 @@ void FillCard(screens::CardForm& form, const core::Card& card)
 
 void TellBadCard(screens::FrmMonthBanner& banner, std::string_view what, const files::FileError& error)
 {
-    core::Say(banner, "Mr.President, " + std::string(what) + " cannot be read. " + error.Message() +
-                          ". Nothing was done, which is not always the worst.");
+    month::Say(banner, "Mr.President, " + std::string(what) + " cannot be read. " + error.Message() +
+                           ". Nothing was done, which is not always the worst.");
 }
 
 }  // namespace events

@@ -19,11 +19,12 @@ struct Losses {
 
 // What is left, as a factor of what was; each product is rounded once. The drought, then the hurricane.
 constexpr std::array<Losses, 2> kLeft{{
-    {{0.95, 0.9, 0.97, 0.95, 0.9}, {1, 1, 1, 1, 1}},
-    {{0.95, 0.95, 0.95, 0.95, 0.95}, {0.99, 0.98, 0.999, 0.999, 0.998}},
+    {std::to_array({0.95, 0.9, 0.97, 0.95, 0.9}), std::to_array<double>({1, 1, 1, 1, 1})},
+    {std::to_array({0.95, 0.95, 0.95, 0.95, 0.95}), std::to_array({0.99, 0.98, 0.999, 0.999, 0.998})},
 }};
 // What the earthquake takes, in percent.
-constexpr Losses kTaken{{5, 2, 3, 5, 2}, {2, 0.8, 0.5, 0.5, 0.2}};
+constexpr Losses kTaken{std::to_array<double>({5, 2, 3, 5, 2}),
+                        std::to_array<double>({2, 0.8, 0.5, 0.5, 0.2})};
 
 void Scale(i32& value, double factor)
 {
@@ -44,13 +45,13 @@ void ApplyLosses(const Losses& losses, void (*apply)(i32&, double), core::GameSt
 }
 
 // Percentage points, by faction.
-constexpr std::array<std::int64_t, core::kFactions> kRelief{7, 10, 6, 4, 5, 9, 8};
+constexpr core::PerFaction<std::int64_t> kRelief = std::to_array<std::int64_t>({7, 10, 6, 4, 5, 9, 8});
 
 }  // namespace
 
 void ApplyDisaster(std::size_t disaster, core::GameState& state)
 {
-    if (disaster < kDisasters) {
+    if (disaster <= kLeft.size()) {
         ApplyLosses(kLeft.at(disaster - 1), Scale, state);
     } else {
         ApplyLosses(kTaken, Take, state);

@@ -7,8 +7,6 @@
 
 namespace events {
 
-inline constexpr std::size_t kDisasters = 3;
-
 // What disaster 1 .. 3 does to the taxed factions' incomes and to their numbers.
 void ApplyDisaster(std::size_t disaster, core::GameState& state);
 

@@ -1,12 +1,12 @@
 #include "events/newspaper.h"
 
-#include "core/banner.h"
+#include "events/event_rules.h"
 
 namespace events {
 
-Newspaper::Newspaper(core::GameState& state, screens::FrmNewspaper& page, screens::FrmMain& main,
+Newspaper::Newspaper(core::GameState& state, month::Month& month, screens::FrmNewspaper& page,
                      media::Sound& sound)
-    : state_(state), page_(page), main_(main), sound_(sound)
+    : state_(state), month_(month), page_(page), sound_(sound)
 {
     page.Command1.onClick = [this] { Close(); };
 }
@@ -22,16 +22,16 @@ void Newspaper::Close()
 {
     sound_.SoundClick();
     page_.Unload();
-    const auto giveBack = [this] { core::GiveBack(main_); };
+    const auto close = [this] { month_.CloseUnlessAsked(); };
     switch (state_.NewsKind) {
     case kArmyChiefGone:
-        newArmyChief(giveBack);
+        newArmyChief(close);
         break;
     case kPoliceChiefGone:
-        newPoliceChief(giveBack);
+        newPoliceChief(close);
         break;
     default:
-        giveBack();
+        close();
     }
 }
 

@@ -1,10 +1,11 @@
-// The newspaper: shows a front page; "Oh!" closes it and gives the main screen back, after the choice of a
-// new chief where the story was that one is gone.
+// The newspaper: shows a front page; "Oh!" closes it and with it the month, after the choice of a new chief where
+// the story was that one is gone. While somebody's claim stands, only the menu comes back.
 #pragma once
 
 #include "core/game_state.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "month/month.h"
+#include "ui/screens/frm_newspaper.h"
 
 #include <functional>
 #include <string_view>
@@ -17,13 +18,9 @@ struct Story {
     std::string_view words;
 };
 
-// What NewsKind says: who has to be replaced when the newspaper is closed.
-enum NewsKind : std::int64_t { kPlainNews = 0, kArmyChiefGone = 1, kPoliceChiefGone = 2 };
-
 class Newspaper {
 public:
-    Newspaper(core::GameState& state, screens::FrmNewspaper& page, screens::FrmMain& main,
-              media::Sound& sound);
+    Newspaper(core::GameState& state, month::Month& month, screens::FrmNewspaper& page, media::Sound& sound);
 
     std::function<void(std::function<void()> afterwards)> newPoliceChief;
     std::function<void(std::function<void()> afterwards)> newArmyChief;
@@ -35,8 +32,8 @@ private:
     void Close();
 
     core::GameState& state_;
+    month::Month& month_;
     screens::FrmNewspaper& page_;
-    screens::FrmMain& main_;
     media::Sound& sound_;
 };
 

@@ -15,7 +15,7 @@ constexpr std::int64_t kAid = 50'000'000;
 constexpr std::int64_t kAidPause = 12;  // months
 
 // What a foreign base adds to each faction's opposition.
-constexpr std::array<std::int64_t, core::kFactions> kBaseAnger{5, 4, 3, 2, 1, 10, 2};
+constexpr core::PerFaction<std::int64_t> kBaseAnger = std::to_array<std::int64_t>({5, 4, 3, 2, 1, 10, 2});
 constexpr std::int64_t kBaseArmyLoss = 10;  // strength
 
 void DeclareWar(core::GameState& state)

@@ -1,8 +1,6 @@
 #include "events/random_events.h"
 
 #include "core/names.h"
-#include "events/disasters.h"
-#include "events/proposal_rules.h"
 
 #include <array>
 #include <string>
@@ -11,194 +9,145 @@ namespace events {
 
 namespace {
 
-// What EventDraw says.
-enum Draw : std::int64_t {
-    kDisaster = 1,
-    kDemand = 2,
-    kDamage = 3,
-    kMoreDamage = 4,
-    kChiefGone = 5,
-    kGoodNews = 6,
-};
+using core::Kind;
+using core::Who;
 
-constexpr std::int64_t kRaidsFrom = 12;  // strength of the guerrillas
-constexpr std::int64_t kStateDamage = 15'000'000;
+constexpr std::size_t kHurricane = 2;
+constexpr std::size_t kEarthquake = 3;
 
 // By disaster; the third page tells of the nation's joy as well.
-constexpr std::array<Story, kDisasters + 1> kDisasterNews{{
-    {},
+constexpr std::array<Story, kDisasters> kDisasterNews = std::to_array<Story>({
     {"images/news1.bmp", "Drought! Rain cancelled until further notice"},
     {"images/news2.bmp", "Hurricane! Foreign wind enters country"},
     {"images/news3.bmp", "Earth shakes! Nation rallies round the President"},
-}};
-constexpr Story kJoy = kDisasterNews[3];
+});
+constexpr Story kJoy = kDisasterNews[2];
 
-struct ChiefStory {
-    Story story;
-    NewsKind kind;
-    std::size_t bars;  // the story of the other chief that can no longer appear
-};
-constexpr std::array<ChiefStory, 7> kChiefStories{{
-    {},
-    {{"images/newsa1.bmp", "Army chief's helicopter obeys gravity"}, kArmyChiefGone, 4},
-    {{"images/newsa2.bmp", "Army chief passes away at his own banquet"}, kArmyChiefGone, 5},
-    {{"images/newsa3.bmp", "Army chief resigns at three thousand feet"}, kArmyChiefGone, 6},
-    {{"images/newsp1.bmp", "Police chief's car fails inspection"}, kPoliceChiefGone, 1},
-    {{"images/newsp2.bmp", "Police chief held by mistake"}, kPoliceChiefGone, 2},
-    {{"images/newsp3.bmp", "Police chief disappears; police baffled"}, kPoliceChiefGone, 3},
-}};
+constexpr std::array<Story, kChiefStories> kChiefNews = std::to_array<Story>({
+    {"images/newsa1.bmp", "Army chief's helicopter obeys gravity"},
+    {"images/newsa2.bmp", "Army chief passes away at his own banquet"},
+    {"images/newsa3.bmp", "Army chief resigns at three thousand feet"},
+    {"images/newsp1.bmp", "Police chief's car fails inspection"},
+    {"images/newsp2.bmp", "Police chief held by mistake"},
+    {"images/newsp3.bmp", "Police chief disappears; police baffled"},
+});
 
-struct Damage {
-    Story story;
-    Proposal claim;  // none: the state pays
-};
-constexpr std::array<Damage, 4> kDamages{{
-    {},
-    {{"images/newsg1.bmp", "Ambush! Guerrillas burn down great plantations"}, kLandownersClaim},
-    {{"images/newsg2.bmp", "Sabotage! Guerrillas blow up the great factory"}, kIndustrialistsClaim},
-    {{"images/newsg3.bmp", "Bridge down! Guerrillas cut the railway in two"}, kNoProposal},
-}};
+constexpr std::array<Story, kRaids> kRaidNews = std::to_array<Story>({
+    {"images/newsg1.bmp", "Ambush! Guerrillas burn down great plantations"},
+    {"images/newsg2.bmp", "Sabotage! Guerrillas blow up the great factory"},
+    {"images/newsg3.bmp", "Bridge down! Guerrillas cut the railway in two"},
+});
 
 constexpr std::string_view kAmbassador =
     "Mr. President, we have a message from the ambassador of the United States. He ";
-// By demand, that is by DealCode.
-constexpr std::array<std::string_view, kDemands + 1> kDemandTexts{
-    "",
-    "wants us to declare war to Hermosita!",
-    "wants us to declare war to Feraz!",
-    "wants us to declare war to Descalza!",
+constexpr std::string_view kNavalBaseWanted =
     "asks to allow them to build a naval base to our country! Nobody is going to like this, especially the "
-    "Army(Strength -10%)!",
+    "Army(Strength -10%)!";
+constexpr std::string_view kAirBaseWanted =
     "asks to allow them to build an air base to our country! Nobody is going to like this, especially the "
-    "Army(Strength -10%)!",
-};
+    "Army(Strength -10%)!";
+
+std::string TextOfDemand(std::int64_t demand)
+{
+    const std::string ambassador(kAmbassador);
+    if (IsWar(demand)) {
+        return ambassador + "wants us to declare war to " + std::string(core::NeighbourName(demand)) + "!";
+    }
+    return ambassador + std::string(demand == kNavalBase ? kNavalBaseWanted : kAirBaseWanted);
+}
+
+// What is said about those who still wait for their money when the next month is asked for.
+constexpr std::string_view WhoWaits(Proposal claim)
+{
+    return claim == kLandownersClaim ? "The landowners are still in the room."
+                                     : "The industrialists are still in the room.";
+}
 
 }  // namespace
 
-Surprises::Surprises(core::GameState& state, core::Chance& chance, screens::Screens& screens,
-                     media::Sound& sound, const core::NumberFormat& format, Newspaper& newspaper,
-                     Requests& requests)
-    : state_(state)
-    , chance_(chance)
-    , screens_(screens)
-    , sound_(sound)
-    , format_(format)
-    , newspaper_(newspaper)
-    , requests_(requests)
-{}
-
-void Surprises::RandomEvents()
+bool RandomEvents::Happen()
 {
-    state_.NewsKind = kPlainNews;
-    state_.EventDraw = chance_.Draw(static_cast<double>(10 - state_.Difficulty), 1);
-    if (ChiefIsGone() || Disaster() || Demand() || GuerrillaDamage() || GoodNews()) {
-        return;
-    }
-    endOfTurn2();
-    requests_.Request();  // gives the main screen back
-}
-
-bool Surprises::ChiefIsGone()
-{
-    if (state_.EventDraw != kChiefGone) {
+    const Event event = DrawEvent(state_, chance_);
+    switch (event.kind) {
+    case Event::Kind::None:
         return false;
+    case Event::Kind::ChiefGone:
+        TellOfChief(event.number);
+        break;
+    case Event::Kind::Disaster:
+        TellOfDisaster(event.number);
+        break;
+    case Event::Kind::Demand:
+        PutDemand(event.number);
+        break;
+    case Event::Kind::Raid:
+        TellOfRaid(event.number);
+        break;
+    case Event::Kind::GoodNews:
+        TellGoodNews();
+        break;
     }
-    const auto drawn = static_cast<std::size_t>(chance_.Between(1, 6));
-    if (state_.ChiefNewsDone[drawn] != 0) {
-        return false;
-    }
-    const ChiefStory& story = kChiefStories.at(drawn);
-    state_.NewsKind = story.kind;
-    newspaper_.Print(story.story);
-    state_.ChiefNewsDone[story.bars] = 1;
     return true;
 }
 
-bool Surprises::Disaster()
+void RandomEvents::TellOfChief(std::size_t story)
 {
-    if (state_.EventDraw != kDisaster) {
-        return false;
-    }
-    auto disaster = static_cast<std::size_t>(chance_.Between(1, kDisasters));
-    while (disaster <= kDisasters && state_.EventDone[disaster] != 0) {
-        ++disaster;
-    }
-    if (disaster > kDisasters) {
-        state_.EventDraw = kDemand;
-        return false;
-    }
-    state_.EventDone[disaster] = 1;
-    if (disaster == 2) {
+    const std::size_t chiefs = kChiefStories / 2;
+    journal_.Add(Kind::ChiefGone, state_.NewsKind == kArmyChiefGone ? Who::Army : Who::Police,
+                 static_cast<std::int64_t>((story - 1) % chiefs + 1));
+    newspaper_.Print(kChiefNews.at(story - 1));
+}
+
+void RandomEvents::TellOfDisaster(std::size_t disaster)
+{
+    journal_.Add(Kind::Disaster, Who::Nobody, static_cast<std::int64_t>(disaster));
+    if (disaster == kHurricane) {
         sound_.SoundTwister();
     }
-    newspaper_.Print(kDisasterNews[disaster]);
-    if (disaster == 3) {
+    newspaper_.Print(kDisasterNews.at(disaster - 1));
+    if (disaster == kEarthquake) {
         sound_.SoundQuake();
     }
-    ApplyDisaster(disaster, state_);
-    return true;
 }
 
-bool Surprises::Demand()
+void RandomEvents::PutDemand(std::size_t demand)
 {
-    if (state_.EventDraw != kDemand) {
-        return false;
-    }
-    std::int64_t demand = chance_.Between(1, kDemands);
-    // The flags of the demands follow those of the disasters.
-    const auto done = [this](std::int64_t number) -> core::u8& {
-        return state_.EventDone.at(kDisasters + static_cast<std::size_t>(number));
-    };
-    while (demand <= kDemands && done(demand) != 0) {
-        ++demand;
-    }
-    if (demand > kDemands) {
-        state_.EventDraw = kDamage;
-        return false;
-    }
-    done(demand) = 1;
-    state_.DealCode = demand;
-    Propose(std::string(kAmbassador) + std::string(kDemandTexts[static_cast<std::size_t>(demand)]));
-    return true;
+    const auto code = static_cast<std::int64_t>(demand);
+    journal_.Add(Kind::Demand, Who::Americans, code);
+    Propose(TextOfDemand(code));
 }
 
-bool Surprises::GuerrillaDamage()
+void RandomEvents::TellOfRaid(std::size_t raid)
 {
-    const bool drawn = state_.EventDraw == kDamage || state_.EventDraw == kMoreDamage;
-    if (!drawn || state_.Strength[core::Guerrillas] < kRaidsFrom) {
-        return false;
+    newspaper_.Print(kRaidNews.at(raid - 1));
+    const Proposal claim = ClaimOf(raid);
+    if (claim == kNoProposal) {
+        journal_.Add(Kind::Damage, Who::Guerrillas, kStateDamage);
+    } else {
+        PutClaim(claim);
     }
-    state_.Compensation = DamageOf(state_);
-    const Damage& damage = kDamages.at(static_cast<std::size_t>(chance_.Between(1, 3)));
-    if (damage.claim == kNoProposal) {
-        state_.Money -= kStateDamage;
-        newspaper_.Print(damage.story);
-        return true;
-    }
-    state_.DealCode = damage.claim;
-    newspaper_.Print(damage.story);
-    Propose("Mr. President, the " + std::string(core::kGroupNames[Claimant(damage.claim)]) +
+}
+
+void RandomEvents::PutClaim(Proposal claim)
+{
+    journal_.Add(Kind::Claim, core::WhoIs(Claimant(claim)), state_.Compensation);
+    month_.Ask(WhoWaits(claim));
+    Propose("Mr. President, the " + std::string(core::kGroupNames[Claimant(claim)]) +
             " wants us to compensate them for damages of " + format_.Amount(state_.Compensation) +
             " dollars!");
-    return true;
 }
 
-bool Surprises::GoodNews()
+void RandomEvents::TellGoodNews()
 {
-    if (state_.EventDraw != kGoodNews || state_.GoodNewsDone != 0) {
-        return false;
-    }
-    ApplyGoodNews(state_);
+    journal_.Add(Kind::GoodNews);
     newspaper_.Print(kJoy);
-    state_.GoodNewsDone = 1;
-    return true;
 }
 
 // Shown last, so it stands before the newspaper.
-void Surprises::Propose(std::string_view text)
+void RandomEvents::Propose(std::string_view text)
 {
-    screens_.frmRandom2.Label1.SetText(text);
-    screens_.frmRandom2.Show();
+    proposal_.Label1.SetText(text);
+    proposal_.Show();
 }
 
 }  // namespace events

@@ -1,53 +1,55 @@
-// Random events: the last thing that can happen in a month before a faction may ask for something.
-//
-// One draw a month decides (10 numbers on Easy, 9 on Normal, 8 on Hard):
-//
-//     1     a disaster, each once a game; when all have been, a demand
-//     2     a demand of the ambassador, each once a game; when all have been, damage by the guerrillas
-//     3, 4  damage by the guerrillas, from a strength of 12 on
-//     5     a chief is gone
-//     6     good news, once a game
-//     else  nothing: the month closes, then somebody may have a request
+// Random events: the last thing that can happen in a month before a faction may ask for something. What was drawn
+// (events/event_rules.h) is told by the newspaper, or put to the president as a proposal, or both.
 #pragma once
 
 #include "core/chance.h"
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "core/numbers.h"
+#include "events/event_rules.h"
 #include "events/newspaper.h"
-#include "events/requests.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "month/month.h"
+#include "ui/screens/frm_random2.h"
 
-#include <functional>
 #include <string_view>
 
 namespace events {
 
-class Surprises {
+class RandomEvents {
 public:
-    Surprises(core::GameState& state, core::Chance& chance, screens::Screens& screens, media::Sound& sound,
-              const core::NumberFormat& format, Newspaper& newspaper, Requests& requests);
+    RandomEvents(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+                 screens::FrmRandom2& proposal, media::Sound& sound, const core::NumberFormat& format,
+                 Newspaper& newspaper)
+        : state_(state)
+        , chance_(chance)
+        , journal_(journal)
+        , month_(month)
+        , proposal_(proposal)
+        , sound_(sound)
+        , format_(format)
+        , newspaper_(newspaper)
+    {}
 
-    std::function<void()> endOfTurn2;  // the month's second half
-
-    void RandomEvents();
+    bool Happen();  // whether anything did
 
 private:
-    // Each returns whether it happened.
-    bool ChiefIsGone();
-    bool Disaster();
-    bool Demand();
-    bool GuerrillaDamage();
-    bool GoodNews();
+    void TellOfChief(std::size_t story);
+    void TellOfDisaster(std::size_t disaster);
+    void PutDemand(std::size_t demand);
+    void TellOfRaid(std::size_t raid);
+    void PutClaim(Proposal claim);
+    void TellGoodNews();
     void Propose(std::string_view text);
 
     core::GameState& state_;
     core::Chance& chance_;
-    screens::Screens& screens_;
+    core::Journal& journal_;
+    month::Month& month_;
+    screens::FrmRandom2& proposal_;
     media::Sound& sound_;
     const core::NumberFormat& format_;
     Newspaper& newspaper_;
-    Requests& requests_;
 };
 
 }  // namespace events

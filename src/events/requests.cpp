@@ -1,12 +1,12 @@
 #include "events/requests.h"
 
-#include "core/banner.h"
 #include "core/cards.h"
 #include "core/names.h"
 #include "core/numbers.h"
 #include "events/card_effects.h"
 #include "events/card_view.h"
 #include "events/request_draw.h"
+#include "month/banner.h"
 
 #include <string>
 
@@ -24,50 +24,59 @@ std::string CardOf(const core::GameState& state)
 
 }  // namespace
 
-Requests::Requests(core::GameState& state, core::Chance& chance, const files::ProgramFolder& folder,
-                   screens::Screens& screens, media::Sound& sound)
-    : state_(state), chance_(chance), folder_(folder), screens_(screens), sound_(sound)
+Requests::Requests(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+                   const files::ProgramFolder& folder, screens::FrmMonthBanner& banner,
+                   screens::FrmShow2& dialog, media::Sound& sound)
+    : state_(state)
+    , chance_(chance)
+    , journal_(journal)
+    , month_(month)
+    , folder_(folder)
+    , banner_(banner)
+    , dialog_(dialog)
+    , sound_(sound)
 {
-    screens.frmShow2.Command1.onClick = [this] {
+    dialog.Command1.onClick = [this] {
         sound_.SoundClick();
-        screens_.frmShow2.Hide();
+        dialog_.Hide();
         MakeRequest();
     };
-    screens.frmShow2.Command3.onClick = [this] {
+    dialog.Command3.onClick = [this] {
         sound_.SoundClick();
-        screens_.frmShow2.Hide();
+        dialog_.Hide();
         DontMakeRequest();
     };
 }
 
 void Requests::Request()
 {
-    screens_.frmMain.SetEnabled(false);
+    month_.TakeMenu();
     if (!DrawRequest(state_, chance_)) {
-        core::GiveBack(screens_.frmMain);
+        month_.Close();
         return;
     }
-    screens_.frmShow2.Label8.SetText(
-        "A request from the " + std::string(core::kGroupNames[core::GroupOfFaction(state_.RequestFaction)]));
+    dialog_.Label8.SetText("A request from the " +
+                           std::string(core::kGroupNames[core::GroupOfFaction(state_.RequestFaction)]));
     ShowAction2();
 }
 
 void Requests::ShowAction2()
 {
     if (NobodyToRelease(state_)) {
-        core::GiveBack(screens_.frmMain);
+        month_.Close();
         return;
     }
-    screens_.frmMain.SetEnabled(false);
+    month_.TakeMenu();
     const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
     if (!card) {
-        TellBadCard(screens_.frmMonthBanner, kCard, card.Error());
-        core::GiveBack(screens_.frmMain);
+        TellBadCard(banner_, kCard, card.Error());
+        month_.Close();
         return;
     }
-    screens_.frmShow2.Label10.SetText(card->title);
-    FillCard(screens_.frmShow2, *card);
-    screens_.frmShow2.ShowModal();
+    dialog_.Label10.SetText(card->title);
+    FillCard(dialog_, *card);
+    journal_.Add(core::Kind::Request, core::FactionOf(state_.RequestFaction), state_.RequestDraw);
+    dialog_.ShowModal();
 }
 
 void Requests::MakeRequest()
@@ -75,20 +84,22 @@ void Requests::MakeRequest()
     const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
     if (card) {
         core::Apply(card->effects, state_);
-        core::Say(screens_.frmMonthBanner, card->result);
+        month::Say(banner_, card->result);
         ApplyRequestEffect(state_.RequestDraw, state_);
+        journal_.Add(core::Kind::Answer, core::FactionOf(state_.RequestFaction), 1);
     } else {
-        TellBadCard(screens_.frmMonthBanner, kCard, card.Error());
+        TellBadCard(banner_, kCard, card.Error());
     }
-    core::GiveBack(screens_.frmMain);
+    month_.Close();
 }
 
 void Requests::DontMakeRequest()
 {
     if (state_.RequestFaction >= 1 && state_.RequestFaction <= std::int64_t{core::kFactions}) {
         state_.Opposition[core::GroupOfFaction(state_.RequestFaction)] += kOffence;
+        journal_.Add(core::Kind::Answer, core::FactionOf(state_.RequestFaction), 0);
     }
-    core::GiveBack(screens_.frmMain);
+    month_.Close();
 }
 
 }  // namespace events

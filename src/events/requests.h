@@ -3,19 +3,22 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "files/program_folder.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "month/month.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_show2.h"
 
 namespace events {
 
 class Requests {
 public:
-    Requests(core::GameState& state, core::Chance& chance, const files::ProgramFolder& folder,
-             screens::Screens& screens, media::Sound& sound);
+    Requests(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+             const files::ProgramFolder& folder, screens::FrmMonthBanner& banner, screens::FrmShow2& dialog,
+             media::Sound& sound);
 
-    // The month's last event. The main screen is given back in any case: at once where nobody asks, else by
-    // the answer.
+    // The month's last event. The month is closed in any case: at once where nobody asks, else by the answer.
     void Request();
     void ShowAction2();
     void MakeRequest();
@@ -24,8 +27,11 @@ public:
 private:
     core::GameState& state_;
     core::Chance& chance_;
+    core::Journal& journal_;
+    month::Month& month_;
     const files::ProgramFolder& folder_;
-    screens::Screens& screens_;
+    screens::FrmMonthBanner& banner_;
+    screens::FrmShow2& dialog_;
     media::Sound& sound_;
 };
 

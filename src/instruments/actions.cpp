@@ -1,27 +1,28 @@
 #include "instruments/actions.h"
 
-#include "core/banner.h"
 #include "instruments/action_refusals.h"
+#include "month/banner.h"
 #include "ui/look/look.h"
 
 namespace instruments {
 
-Actions::Actions(core::GameState& state, screens::Screens& screens, media::Sound& sound)
-    : state_(state), screens_(screens), sound_(sound)
+Actions::Actions(core::GameState& state, screens::FrmActions& list, screens::FrmMonthBanner& banner,
+                 media::Sound& sound)
+    : state_(state), list_(list), banner_(banner), sound_(sound)
 {
-    screens.frmActions.Command1.OnClick([this](int index) { Command1_Click(index); });
+    list.Command1.OnClick([this](int index) { Command1_Click(index); });
 }
 
 void Actions::Open()
 {
     MarkThoseRefused();
-    screens_.frmActions.Show();
+    list_.Show();
 }
 
 void Actions::Command1_Click(int index)
 {
     sound_.SoundClick();
-    screens_.frmActions.Hide();
+    list_.Hide();
     if (!Refused(index)) {
         showAction();
     }
@@ -36,7 +37,7 @@ bool Actions::Refused(int index)
         refusal = RefusedAsDone(state_, index);
     }
     if (refusal) {
-        core::Say(screens_.frmMonthBanner, *refusal);
+        month::Say(banner_, *refusal);
     }
     return refusal.has_value();
 }
@@ -44,7 +45,7 @@ bool Actions::Refused(int index)
 void Actions::MarkThoseRefused()
 {
     for (const ui::ElementRow& row : screens::kActionRows) {
-        ui::CommandButton& button = screens_.frmActions.Command1[row.index];
+        ui::CommandButton& button = list_.Command1[row.index];
         const bool refused = RefusedBySituation(state_, row.index) || RefusedAsDone(state_, row.index);
         button.SetFore(refused ? look::kDoneText : row.style->fore);
         button.SetMark(refused ? ui::Mark::Dash : row.extras.mark);

@@ -5,7 +5,8 @@
 
 #include "core/game_state.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_actions.h"
+#include "ui/screens/frm_month_banner.h"
 
 #include <functional>
 
@@ -13,7 +14,8 @@ namespace instruments {
 
 class Actions {
 public:
-    Actions(core::GameState& state, screens::Screens& screens, media::Sound& sound);
+    Actions(core::GameState& state, screens::FrmActions& list, screens::FrmMonthBanner& banner,
+            media::Sound& sound);
 
     std::function<void()> showAction;  // the card of ActionChoice
 
@@ -25,7 +27,8 @@ private:
     void MarkThoseRefused();
 
     core::GameState& state_;
-    screens::Screens& screens_;
+    screens::FrmActions& list_;
+    screens::FrmMonthBanner& banner_;
     media::Sound& sound_;
 };
 

@@ -1,6 +1,6 @@
 #include "instruments/bank.h"
 
-#include "core/banner.h"
+#include "month/banner.h"
 
 #include <optional>
 
@@ -65,7 +65,7 @@ void Bank::Proceed()
 void Bank::Refuse(std::string_view text)
 {
     bank_.Hide();
-    core::Say(banner_, text);
+    month::Say(banner_, text);
 }
 
 }  // namespace instruments

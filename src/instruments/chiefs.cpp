@@ -1,9 +1,9 @@
 #include "instruments/chiefs.h"
 
-#include "core/banner.h"
 #include "core/numbers.h"
 #include "core/officers.h"
 #include "instruments/chief_rules.h"
+#include "month/banner.h"
 #include "ui/look/look.h"
 
 #include <utility>
@@ -38,20 +38,22 @@ void ShowRow(screens::ChiefTable& screen, int row, const ChiefTexts& texts, bool
 
 }  // namespace
 
-Chiefs::Chiefs(core::GameState& state, core::NewGame& newGame, screens::Screens& screens, media::Sound& sound)
+Chiefs::Chiefs(core::GameState& state, core::Journal& journal, month::NewGame& newGame, Screens screens,
+               media::Sound& sound)
     : state_(state)
+    , journal_(journal)
     , newGame_(newGame)
     , banner_(screens.frmMonthBanner)
     , sound_(sound)
-    , police_{state.PoliceChiefs, screens.frmPolc, "SELECT A NEW POLICE CHIEF", "POLICE CHIEFS",
-              " IS THE NEW POLICE CHIEF!"}
-    , army_{state.ArmyChiefs, screens.frmArmyC, "SELECT A NEW ARMY CHIEF", "ARMY CHIEFS",
-            " IS THE NEW ARMY CHIEF!"}
+    , police_{core::Police,    state.PoliceChiefs,         screens.frmPolc, "SELECT A NEW POLICE CHIEF",
+              "POLICE CHIEFS", " IS THE NEW POLICE CHIEF!"}
+    , army_{core::Army,    state.ArmyChiefs,         screens.frmArmyC, "SELECT A NEW ARMY CHIEF",
+            "ARMY CHIEFS", " IS THE NEW ARMY CHIEF!"}
 {
     screens.frmPolc.Label1.OnClick([this](int index) { Choose(police_, index); });
     screens.frmArmyC.Label1.OnClick([this](int index) { Choose(army_, index); });
-    screens.frmPolice.Command3.onClick = [this, &screens] { View(police_, screens.frmPolice); };
-    screens.frmArmy.Command1.onClick = [this, &screens] { View(army_, screens.frmArmy); };
+    screens.frmPolice.Command3.onClick = [this, &caller = screens.frmPolice] { View(police_, caller); };
+    screens.frmArmy.Command1.onClick = [this, &caller = screens.frmArmy] { View(army_, caller); };
     screens.frmArmy.Command2.onClick = [this] {
         sound_.SoundClick();
         if (armyIn) {
@@ -129,8 +131,9 @@ void Chiefs::Choose(Force& force, int index)
         return;
     }
     Appoint(force.table, row);
+    journal_.Add(core::Kind::NewChief, core::WhoIs(force.group), core::Ability(force.table));
     force.screen.Hide();
-    core::Say(banner_, core::DisplayName(force.table[0]) + std::string(force.appointed));
+    month::Say(banner_, core::DisplayName(force.table[0]) + std::string(force.appointed));
 }
 
 }  // namespace instruments

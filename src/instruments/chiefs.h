@@ -7,9 +7,14 @@
 #pragma once
 
 #include "core/game_state.h"
-#include "core/new_game.h"
+#include "core/journal.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "month/new_game.h"
+#include "ui/screens/frm_army.h"
+#include "ui/screens/frm_army_c.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_polc.h"
+#include "ui/screens/frm_police.h"
 
 #include <functional>
 #include <string_view>
@@ -18,7 +23,15 @@ namespace instruments {
 
 class Chiefs {
 public:
-    Chiefs(core::GameState& state, core::NewGame& newGame, screens::Screens& screens, media::Sound& sound);
+    struct Screens {
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::FrmPolice& frmPolice;
+        screens::FrmPolc& frmPolc;
+        screens::FrmArmy& frmArmy;
+        screens::FrmArmyC& frmArmyC;
+    };
+    Chiefs(core::GameState& state, core::Journal& journal, month::NewGame& newGame, Screens screens,
+           media::Sound& sound);
 
     void NewPoliceChief(std::function<void()> afterwards = {});
     void NewArmyChief(std::function<void()> afterwards = {});
@@ -27,6 +40,7 @@ public:
 
 private:
     struct Force {
+        core::Group group;
         core::OfficerTable& table;
         screens::ChiefTable& screen;
         std::string_view choosing;   // the title while a chief is chosen, and the sign that he may be
@@ -41,7 +55,8 @@ private:
     static void Fill(Force& force);
 
     core::GameState& state_;
-    core::NewGame& newGame_;
+    core::Journal& journal_;
+    month::NewGame& newGame_;
     screens::FrmMonthBanner& banner_;
     media::Sound& sound_;
     Force police_;

@@ -14,35 +14,34 @@ struct Coup {
     std::int64_t faction;         // number
     std::int64_t strengthNeeded;  // of the chief's force
     core::OfficerTable core::GameState::*chiefs;
-    std::int64_t coupState;
+    core::Coup coupState;
     std::string_view message;
 };
 // In the order in which they are tried.
 // clang-format off
 constexpr Coup kCoups[] = {
     // faction, strength
-    {6, 40, &core::GameState::ArmyChiefs,   1, "Mr.President, Army chief betrayed you and he is trying to seize power!"},
-    {7, 25, &core::GameState::PoliceChiefs, 2, "Mr.President, Police chief betrayed you and he is trying to seize power!"},
+    {6, 40, &core::GameState::ArmyChiefs,   core::kArmyChiefRebels,   "Mr.President, Army chief betrayed you and he is trying to seize power!"},
+    {7, 25, &core::GameState::PoliceChiefs, core::kPoliceChiefRebels, "Mr.President, Police chief betrayed you and he is trying to seize power!"},
 };
 // clang-format on
 
 }  // namespace
 
-Coups::Coups(core::GameState& state, core::Chance& chance, screens::FrmMes3& message, media::Sound& sound)
-    : state_(state), chance_(chance), message_(message), sound_(sound)
+Coups::Coups(core::GameState& state, core::Chance& chance, core::Journal& journal, screens::FrmMes3& message,
+             media::Sound& sound)
+    : state_(state), chance_(chance), journal_(journal), message_(message), sound_(sound)
 {
     message.Command1.onClick = [this] {
         sound_.SoundClick();
         message_.Hide();
-        if (revolutionStart) {
-            revolutionStart();
-        }
+        revolutionStart();
     };
 }
 
-void Coups::ChiefCoup()
+bool Coups::ChiefCoup()
 {
-    state_.CoupState = 0;
+    state_.CoupState = core::kNoCoup;
     for (const Coup& coup : kCoups) {
         if (state_.MonthsInPower > kQuietMonths &&
             ChiefBetrays(state_, chance_, state_.*coup.chiefs, core::GroupOfFaction(coup.faction),
@@ -52,12 +51,11 @@ void Coups::ChiefCoup()
             message_.Label1.SetText(coup.message);
             message_.Show();
             state_.CoupState = coup.coupState;
-            return;
+            journal_.Add(core::Kind::Coup, core::FactionOf(coup.faction));
+            return true;
         }
     }
-    if (otherwise) {
-        otherwise();
-    }
+    return false;
 }
 
 }  // namespace instruments

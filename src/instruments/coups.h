@@ -3,6 +3,7 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
+#include "core/journal.h"
 #include "media/cues.h"
 #include "ui/screens/frm_mes3.h"
 
@@ -12,16 +13,17 @@ namespace instruments {
 
 class Coups {
 public:
-    Coups(core::GameState& state, core::Chance& chance, screens::FrmMes3& message, media::Sound& sound);
+    Coups(core::GameState& state, core::Chance& chance, core::Journal& journal, screens::FrmMes3& message,
+          media::Sound& sound);
 
-    void ChiefCoup();
+    bool ChiefCoup();  // whether one of them was not loyal
 
-    std::function<void()> otherwise;        // both chiefs were loyal
     std::function<void()> revolutionStart;  // the player has read who was not
 
 private:
     core::GameState& state_;
     core::Chance& chance_;
+    core::Journal& journal_;
     screens::FrmMes3& message_;
     media::Sound& sound_;
 };

@@ -1,8 +1,8 @@
 #include "instruments/police_report.h"
 
-#include "core/banner.h"
 #include "core/officers.h"
 #include "instruments/report_rules.h"
+#include "month/banner.h"
 #include "ui/look/look.h"
 
 #include <algorithm>
@@ -80,7 +80,7 @@ void Warn(ui::Label& cell, Danger danger)
 void PoliceReport::Open()
 {
     if (const ReportRefusal refusal = WhyNoReport(state_); refusal != ReportRefusal::None) {
-        core::Say(banner_, kRefusals[static_cast<std::size_t>(refusal)]);
+        month::Say(banner_, kRefusals[static_cast<std::size_t>(refusal)]);
         return;
     }
     police_.Show();

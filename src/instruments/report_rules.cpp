@@ -1,17 +1,16 @@
 #include "instruments/report_rules.h"
 
 #include "core/society.h"
+#include "core/thresholds.h"
 
 namespace instruments {
 
 namespace {
 
-constexpr std::int64_t kPoliceRefuseAt = 55;     // their opposition
-constexpr std::int64_t kPoliceTooWeakAt = 19;    // their strength
-constexpr std::int64_t kMayJoinAt = 55;          // opposition
-constexpr std::int64_t kMayStartAt = 65;         // opposition
-constexpr std::int64_t kOutsidersStrongAt = 12;  // strength
-constexpr std::int64_t kAmericansPatience = 70;  // their hostility
+constexpr std::int64_t kPoliceRefuseAt = 55;   // their opposition
+constexpr std::int64_t kPoliceTooWeakAt = 19;  // their strength
+constexpr std::int64_t kOutsidersStrongAt = core::kPrisonersRiseAt;
+static_assert(kOutsidersStrongAt == core::kGuerrillasRaidAt);
 
 }  // namespace
 
@@ -40,10 +39,10 @@ void CountTheCountry(core::GameState& state)
 
 Danger OppositionDanger(std::int64_t opposition)
 {
-    if (opposition >= kMayStartAt) {
+    if (opposition >= core::kWarnedOfStartAt) {
         return Danger::MayStart;
     }
-    return opposition >= kMayJoinAt ? Danger::MayJoin : Danger::None;
+    return opposition >= core::kWarnedOfJoiningAt ? Danger::MayJoin : Danger::None;
 }
 
 Danger OutsiderDanger(std::int64_t strength)
@@ -53,7 +52,7 @@ Danger OutsiderDanger(std::int64_t strength)
 
 bool AmericansAreDangerous(const core::GameState& state)
 {
-    return state.AmericanHostility > kAmericansPatience;
+    return state.AmericanHostility >= core::kAmericansStrikeAt;
 }
 
 }  // namespace instruments

@@ -1,7 +1,7 @@
 #include "persist/archive.h"
 
 #include "files/checksum.h"
-#include "persist/found.h"
+#include "persist/record_errors.h"
 
 #include <utility>
 

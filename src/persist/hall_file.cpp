@@ -16,7 +16,7 @@ std::string NotWritten(const files::FileError& error)
 
 }  // namespace
 
-files::Result<Hall> HallOfFame::Read() const
+files::Result<HallList> HallFile::Read() const
 {
     const files::Result<bool> there = files_.Has(kFile);
     if (!there) {
@@ -45,10 +45,10 @@ std::vector<std::string> HallOfFame::Files()
 
 // The list, or a fresh one when it could not be read and was put aside. Where that fails too, the unreadable
 // file stays as it is and nothing may be written.
-Hall HallOfFame::ReadOrBegin(const files::FolderLock& lock, std::string& trouble, bool& mayWrite) const
+HallList HallFile::ReadOrBegin(const files::FolderLock& lock, std::string& trouble, bool& mayWrite) const
 {
     mayWrite = true;
-    const files::Result<Hall> hall = Read();
+    const files::Result<HallList> hall = Read();
     if (hall) {
         return *hall;
     }
@@ -66,16 +66,16 @@ Hall HallOfFame::ReadOrBegin(const files::FolderLock& lock, std::string& trouble
     }
     trouble +=
         aside->empty() ? "A fresh one was begun." : "It is kept as " + *aside + " and a fresh one begun.";
-    const files::Result<Hall> shipped = Read();  // what the game came with, where that is another file
+    const files::Result<HallList> shipped = Read();  // what the game came with, where that is another file
     return shipped ? *shipped : FreshHall();
 }
 
-HallReport HallOfFame::Enter(const HallEntry& entry, bool dead) const
+HallReport HallFile::Enter(const HallEntry& entry, bool dead) const
 {
     HallReport report;
     const files::Result<files::FolderLock> lock = files_.Lock(kFile);
     if (!lock) {
-        const files::Result<Hall> hall = Read();
+        const files::Result<HallList> hall = Read();
         report.hall = hall ? *hall : FreshHall();
         report.trouble = NotWritten(lock.Error());
         persist::Enter(report.hall, entry, dead);

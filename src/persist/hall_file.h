@@ -1,6 +1,6 @@
 // The hall of fame in its file, Data/Top.
 //
-//     const persist::HallOfFame hall(files);
+//     const persist::HallFile hall(files);
 //     const persist::HallReport report = hall.Enter(persist::EntryOf(state), state.Dead == 1);
 //     ... show report.hall; tell report.trouble when it is not empty ...
 //
@@ -17,16 +17,16 @@
 namespace persist {
 
 struct HallReport {
-    Hall hall{};
+    HallList hall{};
     std::string trouble{};  // in words for the player; empty when all went well
 };
 
-class HallOfFame {
+class HallFile {
 public:
-    explicit HallOfFame(const files::WrittenFiles& files) : files_(files) {}
+    explicit HallFile(const files::WrittenFiles& files) : files_(files) {}
 
     // The list as it is; where there is no file yet, a fresh one.
-    files::Result<Hall> Read() const;
+    files::Result<HallList> Read() const;
     // Whether somebody else has written in the list. It is shown and kept all the same.
     bool Altered() const;
     // The list with the entry in its place, written.
@@ -36,7 +36,7 @@ public:
     static std::vector<std::string> Files();
 
 private:
-    Hall ReadOrBegin(const files::FolderLock& lock, std::string& trouble, bool& mayWrite) const;
+    HallList ReadOrBegin(const files::FolderLock& lock, std::string& trouble, bool& mayWrite) const;
 
     const files::WrittenFiles& files_;
 };

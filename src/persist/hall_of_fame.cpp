@@ -1,7 +1,7 @@
 #include "persist/hall_of_fame.h"
 
 #include "core/short_text.h"
-#include "persist/found.h"
+#include "persist/record_errors.h"
 
 #include <algorithm>
 
@@ -19,18 +19,13 @@ struct LevelRow {
     std::string_view word;
 };
 // By core::Level.
-constexpr std::array<LevelRow, 3> kLevels{{{1.0, "easy"}, {1.2, "normal"}, {1.4, "hard"}}};
+constexpr core::PerLevel<LevelRow> kLevels =
+    std::to_array<LevelRow>({{1.0, "easy"}, {1.2, "normal"}, {1.4, "hard"}});
 
 // Columns of a name that fit beside "President" in one line of the list, however wide its letters are.
 constexpr std::size_t kNameShown = 72;
 
 constexpr std::size_t kRecordsOfEntry = 7;
-
-// What went beyond the levels can only have been hard.
-std::size_t LevelIndex(std::int64_t level)
-{
-    return static_cast<std::size_t>(std::clamp<std::int64_t>(level, core::kEasy, core::kHard));
-}
 
 // Takes one number over; tells what was expected when it is none or does not fit.
 template <class T> std::optional<std::string> Take(const files::Item& item, core::Saturated<T>& field,
@@ -82,7 +77,7 @@ HallEntry EntryOf(const core::GameState& state)
         .assassinations = state.AssassinationAttempts,
         .revolutions = state.Revolutions,
         .victims = state.Victims,
-        .level = static_cast<std::int64_t>(LevelIndex(state.Difficulty)),
+        .level = static_cast<std::int64_t>(core::LevelIndex(state.Difficulty)),
     };
 }
 
@@ -94,7 +89,7 @@ std::int64_t PlainScore(const HallEntry& entry)
 
 double LevelFactor(std::int64_t level)
 {
-    return kLevels[LevelIndex(level)].factor;
+    return kLevels[core::LevelIndex(level)].factor;
 }
 
 std::int64_t Score(const HallEntry& entry)
@@ -107,7 +102,7 @@ std::string ShownScore(double score, const core::NumberFormat& format)
     return format.Amount(score / kShownIn);
 }
 
-void Enter(Hall& hall, const HallEntry& entry, bool dead)
+void Enter(HallList& hall, const HallEntry& entry, bool dead)
 {
     const std::int64_t score = dead ? 0 : Score(entry);
     const auto place =
@@ -121,7 +116,7 @@ void Enter(Hall& hall, const HallEntry& entry, bool dead)
 std::string Sentence(const HallEntry& entry, const core::NumberFormat& format)
 {
     return "President " + core::Shortened(entry.name, kNameShown) + " made it alive at " +
-           std::string(kLevels[LevelIndex(entry.level)].word) + " level, with a score of " +
+           std::string(kLevels[core::LevelIndex(entry.level)].word) + " level, with a score of " +
            ShownScore(static_cast<double>(Score(entry)), format) + " points. He gained a fortune of " +
            format.Amount(std::int64_t{entry.fortune}) + ", by staying in power for " +
            core::Digits(entry.months) + " months and encountering " + core::Digits(entry.assassinations) +
@@ -129,7 +124,7 @@ std::string Sentence(const HallEntry& entry, const core::NumberFormat& format)
            format.Amount(std::int64_t{entry.victims}) + " people on his hands!";
 }
 
-std::string WriteHall(const Hall& hall)
+std::string WriteHall(const HallList& hall)
 {
     std::string content;
     for (const HallEntry& entry : hall) {
@@ -145,9 +140,9 @@ std::string WriteHall(const Hall& hall)
     return content;
 }
 
-files::Result<Hall> ReadHall(const std::vector<files::Item>& items, std::string_view file)
+files::Result<HallList> ReadHall(const std::vector<files::Item>& items, std::string_view file)
 {
-    Hall hall;
+    HallList hall;
     for (std::size_t i = 0; i < std::min(items.size(), kHallPlaces * kRecordsOfEntry); ++i) {
         const std::size_t which = i % kRecordsOfEntry;
         if (const auto expected = TakeRecord(items[i], which, hall[i / kRecordsOfEntry])) {
@@ -160,9 +155,9 @@ files::Result<Hall> ReadHall(const std::vector<files::Item>& items, std::string_
     return hall;
 }
 
-Hall FreshHall()
+HallList FreshHall()
 {
-    Hall hall;
+    HallList hall;
     hall.fill({.name = "Nobody"});
     return hall;
 }

@@ -30,7 +30,7 @@ struct HallEntry {
 };
 
 inline constexpr std::size_t kHallPlaces = 10;
-using Hall = std::array<HallEntry, kHallPlaces>;
+using HallList = std::array<HallEntry, kHallPlaces>;
 
 HallEntry EntryOf(const core::GameState& state);
 
@@ -45,15 +45,15 @@ std::int64_t Score(const HallEntry& entry);
 std::string ShownScore(double score, const core::NumberFormat& format);
 
 // Puts the entry before the first that scored no more than it; none of the ten need be so.
-void Enter(Hall& hall, const HallEntry& entry, bool dead);
+void Enter(HallList& hall, const HallEntry& entry, bool dead);
 
 std::string Sentence(const HallEntry& entry, const core::NumberFormat& format);
 
 // The file: ten entries of seven records, one value a line, the level as its number.
-std::string WriteHall(const Hall& hall);
-files::Result<Hall> ReadHall(const std::vector<files::Item>& items, std::string_view file);
+std::string WriteHall(const HallList& hall);
+files::Result<HallList> ReadHall(const std::vector<files::Item>& items, std::string_view file);
 
 // A list to begin with where there is none: ten presidents whom nobody remembers.
-Hall FreshHall();
+HallList FreshHall();
 
 }  // namespace persist

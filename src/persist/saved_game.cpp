@@ -1,7 +1,7 @@
 #include "persist/saved_game.h"
 
 #include "core/numbers.h"
-#include "persist/found.h"
+#include "persist/record_errors.h"
 
 #include <cmath>
 #include <limits>

@@ -1,5 +1,6 @@
 #include "shell/army.h"
 
+#include "core/names.h"
 #include "core/numbers.h"
 #include "core/officers.h"
 
@@ -10,13 +11,7 @@ namespace shell {
 
 namespace {
 
-// By War, 0 being peace.
-constexpr std::array<std::string_view, 4> kWarStatus{
-    "We are in peace with all of our neigbors",
-    "We are in war with Hermosita!",
-    "We are in war with Feraz!",
-    "We are in war with Descalza!",
-};
+constexpr std::string_view kPeace = "We are in peace with all of our neigbors";
 
 }  // namespace
 
@@ -58,14 +53,16 @@ void ArmyScreen::ShowStrengths()
     army_.Label6.SetText("Descalza's strength is " + core::Digits(state_.DescalzaStrength));
 }
 
-// What no line of this table covers leaves the status as it was.
+// What none of these lines covers leaves the status as it was.
 void ArmyScreen::ShowWar()
 {
-    const auto war = static_cast<std::size_t>(std::int64_t{state_.War});
-    if (state_.GuerrillaWar == 1 && war != 0) {
+    const std::string neighbour(core::NeighbourName(state_.War));
+    if (state_.GuerrillaWar == 1 && state_.War != 0) {
         army_.Label7.SetText("We are currently attacking the Guerrillas!");
-    } else if (state_.GuerrillaWar == 0 && war < kWarStatus.size()) {
-        army_.Label7.SetText(kWarStatus[war]);
+    } else if (state_.GuerrillaWar == 0 && state_.War == 0) {
+        army_.Label7.SetText(kPeace);
+    } else if (state_.GuerrillaWar == 0 && !neighbour.empty()) {
+        army_.Label7.SetText("We are in war with " + neighbour + "!");
     }
 }
 

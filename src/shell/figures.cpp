@@ -8,7 +8,8 @@ namespace shell {
 namespace {
 
 // By core::Level; what went beyond it can only have been hard.
-constexpr std::array<std::string_view, 3> kLevels{"Easy", "Normal", "Hard"};
+constexpr core::PerLevel<std::string_view> kLevels =
+    std::to_array<std::string_view>({"Easy", "Normal", "Hard"});
 
 }  // namespace
 
@@ -21,8 +22,7 @@ void ShowFigures(screens::FiguresForm& sheet, const core::GameState& state, cons
     sheet.lblRev.SetText(core::Digits(state.Revolutions));
     sheet.lblVictims.SetText(format.Amount(std::int64_t{state.Victims}));
     sheet.lblScore.SetText(score);
-    sheet.lblLevel.SetText(
-        kLevels[static_cast<std::size_t>(std::min<std::int64_t>(state.Difficulty, core::kHard))]);
+    sheet.lblLevel.SetText(kLevels[core::LevelIndex(state.Difficulty)]);
 }
 
 }  // namespace shell

@@ -1,13 +1,13 @@
 #include "shell/hall.h"
 
-#include "core/banner.h"
 #include "core/start_values.h"
+#include "month/banner.h"
 
 namespace shell {
 
-Hall::Hall(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens,
-           const files::WrittenFiles& files, const core::NumberFormat& format)
-    : state_(state), desktop_(desktop), screens_(screens), hall_(files), format_(format)
+HallScreen::HallScreen(core::GameState& state, month::Month& month, ui::Desktop& desktop, Screens screens,
+                       const files::WrittenFiles& files, const core::NumberFormat& format)
+    : state_(state), month_(month), desktop_(desktop), screens_(screens), hall_(files), format_(format)
 {
     screens.frmTop102.onClick = [this] {
         GRestart();
@@ -15,7 +15,7 @@ Hall::Hall(core::GameState& state, ui::Desktop& desktop, screens::Screens& scree
     };
 }
 
-void Hall::TopTen()
+void HallScreen::TopTen()
 {
     state_.HallShown = 1;
     screens_.frmTop102.Show();
@@ -28,12 +28,12 @@ void Hall::TopTen()
     }
 }
 
-void Hall::See()
+void HallScreen::See()
 {
-    const files::Result<persist::Hall> list = hall_.Read();
+    const files::Result<persist::HallList> list = hall_.Read();
     if (!list) {
-        core::Say(screens_.frmMonthBanner, "Mr.President, the list of the great cannot be read. " +
-                                               list.Error().Message() + ". They are still great.");
+        month::Say(screens_.frmMonthBanner, "Mr.President, the list of the great cannot be read. " +
+                                                list.Error().Message() + ". They are still great.");
         return;
     }
     screens_.frmTop102.Show();
@@ -44,7 +44,7 @@ void Hall::See()
     }
 }
 
-void Hall::ShowList(const persist::Hall& list)
+void HallScreen::ShowList(const persist::HallList& list)
 {
     for (int i = 0; i < screens::kHallRows; ++i) {
         screens_.frmTop102.Label1[i].SetText(persist::Sentence(list[static_cast<std::size_t>(i)], format_));
@@ -52,7 +52,7 @@ void Hall::ShowList(const persist::Hall& list)
 }
 
 // Only a remark: the list counts as it stands.
-void Hall::TellAltered()
+void HallScreen::TellAltered()
 {
     screens_.frmTop102.Label3.SetText(
         "Somebody else has written in this list. We thank him for the interest.");
@@ -60,19 +60,19 @@ void Hall::TellAltered()
     screens_.frmTop102.Label6.SetVisible(false);
 }
 
-void Hall::ShowTrouble(const std::string& trouble)
+void HallScreen::ShowTrouble(const std::string& trouble)
 {
     screens_.frmTop102.Label3.SetText(trouble);
     screens_.frmTop102.Label3.SetVisible(!trouble.empty());
     screens_.frmTop102.Label6.SetVisible(trouble.empty());
     if (!trouble.empty()) {
-        core::Say(screens_.frmMonthBanner, trouble);
+        month::Say(screens_.frmMonthBanner, trouble);
     }
 }
 
 // Every screen but three belongs to a game. They are unloaded, not hidden: what a dialog would have continued
 // with when it is closed must not run in a game that is over.
-void Hall::GRestart()
+void HallScreen::GRestart()
 {
     state_.DisplayModeSet = 1;
     if (state_.HallShown == 0) {
@@ -86,9 +86,10 @@ void Hall::GRestart()
         }
     }
     screens_.frmStart.Hide();
-    core::ClearBanner(screens_.frmMonthBanner);
+    month::ClearBanner(screens_.frmMonthBanner);
     screens_.frmlogo.Show();
     core::ClearGame(state_);
+    month_.Forget();
 }
 
 }  // namespace shell

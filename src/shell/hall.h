@@ -4,16 +4,26 @@
 #include "core/game_state.h"
 #include "core/numbers.h"
 #include "files/written_files.h"
+#include "month/month.h"
 #include "persist/hall_file.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_logo.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_start.h"
+#include "ui/screens/frm_top_102.h"
 #include "ui/toolkit/desktop.h"
 
 namespace shell {
 
-class Hall {
+class HallScreen {
 public:
-    Hall(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens,
-         const files::WrittenFiles& files, const core::NumberFormat& format);
+    struct Screens {
+        screens::FrmTop102& frmTop102;
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::Frmlogo& frmlogo;
+        screens::FrmStart& frmStart;
+    };
+    HallScreen(core::GameState& state, month::Month& month, ui::Desktop& desktop, Screens screens,
+               const files::WrittenFiles& files, const core::NumberFormat& format);
 
     // At a game's end: the president is placed among the ten, and the list is shown.
     void TopTen();
@@ -24,14 +34,15 @@ public:
     void GRestart();
 
 private:
-    void ShowList(const persist::Hall& list);
+    void ShowList(const persist::HallList& list);
     void TellAltered();
     void ShowTrouble(const std::string& trouble);
 
     core::GameState& state_;
+    month::Month& month_;
     ui::Desktop& desktop_;
-    screens::Screens& screens_;
-    persist::HallOfFame hall_;
+    Screens screens_;
+    persist::HallFile hall_;
     const core::NumberFormat& format_;
 };
 

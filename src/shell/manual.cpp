@@ -1,6 +1,6 @@
 #include "shell/manual.h"
 
-#include "core/banner.h"
+#include "month/banner.h"
 
 #include <system_error>
 
@@ -12,26 +12,26 @@ constexpr std::string_view kManual = "Data/Manual.htm";
 
 }  // namespace
 
-void Manual::Open()
+std::string Manual::Open()
 {
     const std::filesystem::path path = folder_.Path(kManual);
     std::error_code error;
     if (!std::filesystem::exists(path, error)) {
-        Tell("Mr.President, the manual was expected at " + path.string() +
-             " and is not there. Nobody had read it, so nobody is missing anything.");
-        return;
+        return Tell("Mr.President, the manual was expected at " + path.string() +
+                    " and is not there. Nobody had read it, so nobody is missing anything.");
     }
     host_.OpenDocument(kManual);
-    Tell("Mr.President, your manual lies at " + path.string());
+    return Tell("Mr.President, your manual lies at " + path.string());
 }
 
-void Manual::Tell(const std::string& text)
+std::string Manual::Tell(std::string text)
 {
     if (screens_.frmStart.Visible()) {
         screens_.frmStart.Label3.SetText(text);
     } else if (screens_.frmMain.Visible() && screens_.frmMain.Enabled() && desktop_.ModalForm() == nullptr) {
-        core::Say(screens_.frmMonthBanner, text);
+        month::Say(screens_.frmMonthBanner, text);
     }
+    return text;
 }
 
 }  // namespace shell

@@ -6,7 +6,9 @@
 
 #include "files/program_folder.h"
 #include "media/host.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_main.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_start.h"
 #include "ui/toolkit/desktop.h"
 
 #include <string>
@@ -15,20 +17,24 @@ namespace shell {
 
 class Manual {
 public:
-    Manual(const files::ProgramFolder& folder, media::Host& host, const ui::Desktop& desktop,
-           screens::Screens& screens)
+    struct Screens {
+        screens::FrmStart& frmStart;
+        screens::FrmMain& frmMain;
+        screens::FrmMonthBanner& frmMonthBanner;
+    };
+    Manual(const files::ProgramFolder& folder, media::Host& host, const ui::Desktop& desktop, Screens screens)
         : folder_(folder), host_(host), desktop_(desktop), screens_(screens)
     {}
 
-    void Open();
+    std::string Open();  // what was told
 
 private:
-    void Tell(const std::string& text);
+    std::string Tell(std::string text);
 
     const files::ProgramFolder& folder_;
     media::Host& host_;
     const ui::Desktop& desktop_;
-    screens::Screens& screens_;
+    Screens screens_;
 };
 
 }  // namespace shell

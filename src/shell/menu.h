@@ -2,27 +2,37 @@
 #pragma once
 
 #include "media/cues.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_main.h"
+#include "ui/screens/frm_month_banner.h"
 
 #include <array>
 #include <functional>
+#include <vector>
 
 namespace shell {
 
 class Menu {
 public:
-    Menu(screens::Screens& screens, media::Sound& sound);
+    // What the menu may have opened, and what the month left behind: hidden, or unloaded where a screen begins
+    // afresh each time.
+    struct Leftover {
+        ui::Form& form;
+        enum class Goes { Hidden, Unloaded } goes = Goes::Hidden;
+    };
+    Menu(screens::FrmMain& main, screens::FrmMonthBanner& banner, std::vector<Leftover> leftovers,
+         media::Sound& sound);
 
     // What each item does; an item without a command only closes what is open.
     std::array<std::function<void()>, screens::kMenuItems> commands;
 
     void Label5_Click(int index);
     void Label5_MouseMove(int index);
-    // Hides, and unloads where a screen begins afresh each time, everything the menu may have opened.
     void CloseAll();
 
 private:
-    screens::Screens& screens_;
+    screens::FrmMain& main_;
+    screens::FrmMonthBanner& banner_;
+    std::vector<Leftover> leftovers_;
     media::Sound& sound_;
 };
 

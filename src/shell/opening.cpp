@@ -13,21 +13,21 @@ struct LevelStep {
     core::Level next;
     std::string_view caption;
 };
-constexpr std::array<LevelStep, 3> kLevels{{
+constexpr core::PerLevel<LevelStep> kLevels = std::to_array<LevelStep>({
     {core::kNormal, "Level Easy"},
     {core::kHard, "Level Normal"},
     {core::kEasy, "Level Hard"},
-}};
+});
 
 // A level that there is none of, from a broken saved game, counts as the hardest.
 const LevelStep& StepFrom(std::int64_t level)
 {
-    return kLevels[static_cast<std::size_t>(std::clamp<std::int64_t>(level, core::kEasy, core::kHard))];
+    return kLevels[core::LevelIndex(level)];
 }
 
 }  // namespace
 
-Opening::Opening(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
+Opening::Opening(core::GameState& state, Screens screens, media::Sound& sound, media::Host& host,
                  Display& display, Manual& manual)
     : state_(state), screens_(screens), sound_(sound), host_(host), display_(display)
 {

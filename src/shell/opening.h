@@ -6,7 +6,12 @@
 #include "media/host.h"
 #include "shell/display.h"
 #include "shell/manual.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_about.h"
+#include "ui/screens/frm_logo.h"
+#include "ui/screens/frm_main.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_name.h"
+#include "ui/screens/frm_start.h"
 
 #include <functional>
 
@@ -14,8 +19,16 @@ namespace shell {
 
 class Opening {
 public:
-    Opening(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
-            Display& display, Manual& manual);
+    struct Screens {
+        screens::Frmlogo& frmlogo;
+        screens::FrmStart& frmStart;
+        screens::FrmName& frmName;
+        screens::FrmAbout& frmAbout;
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::FrmMain& frmMain;
+    };
+    Opening(core::GameState& state, Screens screens, media::Sound& sound, media::Host& host, Display& display,
+            Manual& manual);
 
     std::function<void()> loadGame;  // what follows the name when a saved game shall be loaded
 
@@ -32,7 +45,7 @@ private:
     void TakeName();
 
     core::GameState& state_;
-    screens::Screens& screens_;
+    Screens screens_;
     media::Sound& sound_;
     media::Host& host_;
     Display& display_;

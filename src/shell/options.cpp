@@ -5,9 +5,9 @@
 
 namespace shell {
 
-Options::Options(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
+Options::Options(core::GameState& state, Screens screens, media::Sound& sound, media::Host& host,
                  const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
-                 Hall& hall)
+                 HallScreen& hall)
     : state_(state)
     , screens_(screens)
     , sound_(sound)
@@ -49,8 +49,7 @@ void Options::Label5_Click(int index)
     sound_.SoundClick();
     switch (index) {
     case screens::kOptionHelp:
-        manual_.Open();
-        screens_.frmOptions.Label1.SetText(screens_.frmMonthBanner.Label1.Text());
+        screens_.frmOptions.Label1.SetText(manual_.Open());
         return;
     case screens::kOptionQuit:
         display_.RestoreDisplayMode();

@@ -9,15 +9,22 @@
 #include "shell/hall.h"
 #include "shell/manual.h"
 #include "shell/saved_games.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_about.h"
+#include "ui/screens/frm_history.h"
+#include "ui/screens/frm_options.h"
 
 namespace shell {
 
 class Options {
 public:
-    Options(core::GameState& state, screens::Screens& screens, media::Sound& sound, media::Host& host,
+    struct Screens {
+        screens::FrmOptions& frmOptions;
+        screens::FrmHistory& frmHistory;
+        screens::FrmAbout& frmAbout;
+    };
+    Options(core::GameState& state, Screens screens, media::Sound& sound, media::Host& host,
             const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
-            Hall& hall);
+            HallScreen& hall);
 
     void Open();
     void Label5_Click(int index);
@@ -28,14 +35,14 @@ private:
     void ShowHistory();
 
     core::GameState& state_;
-    screens::Screens& screens_;
+    Screens screens_;
     media::Sound& sound_;
     media::Host& host_;
     const core::NumberFormat& format_;
     Display& display_;
     Manual& manual_;
     SavedGames& savedGames_;
-    Hall& hall_;
+    HallScreen& hall_;
 };
 
 }  // namespace shell

@@ -1,6 +1,6 @@
 #include "shell/saved_games.h"
 
-#include "core/banner.h"
+#include "month/banner.h"
 #include "shell/figures.h"
 
 #include <string>
@@ -46,9 +46,8 @@ std::string NamesLost(const files::FileError& error)
 
 }  // namespace
 
-SavedGames::SavedGames(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens,
-                       media::Sound& sound, const files::WrittenFiles& files,
-                       const core::NumberFormat& format)
+SavedGames::SavedGames(core::GameState& state, ui::Desktop& desktop, Screens screens, media::Sound& sound,
+                       const files::WrittenFiles& files, const core::NumberFormat& format)
     : state_(state), desktop_(desktop), screens_(screens), sound_(sound), archive_(files), format_(format)
 {
     BindSave();
@@ -117,7 +116,7 @@ void SavedGames::Open(screens::SlotForm& form)
 void SavedGames::Warn(screens::SlotForm& form, std::string_view trouble)
 {
     form.Label2.SetText(trouble);
-    core::Say(screens_.frmMonthBanner, trouble);
+    month::Say(screens_.frmMonthBanner, trouble);
 }
 
 void SavedGames::ProSave()
@@ -179,7 +178,7 @@ void SavedGames::SaveUnderName()
     }
     if (WriteGame()) {
         const files::Failure failure = archive_.SaveNames(namesBefore_, Typed(), state_.SaveSlot);
-        core::Say(screens_.frmMonthBanner, failure ? NotNamed(*failure) : "Game Saved");
+        month::Say(screens_.frmMonthBanner, failure ? NotNamed(*failure) : "Game Saved");
     }
     screens_.frmSave.Unload();
 }
@@ -193,13 +192,13 @@ void SavedGames::save()
 bool SavedGames::WriteGame()
 {
     if (!SlotChosen()) {
-        core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "saved.");
+        month::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "saved.");
         return false;
     }
     const files::Result<bool> used = archive_.Used(state_.SaveSlot);
     const files::Failure failure = used ? archive_.Save(state_.SaveSlot, state_) : used.Error();
     if (failure) {
-        core::Say(screens_.frmMonthBanner, NotSaved(*failure));
+        month::Say(screens_.frmMonthBanner, NotSaved(*failure));
     }
     return !failure;
 }
@@ -232,17 +231,17 @@ void SavedGames::ProLoad()
 void SavedGames::Load()
 {
     if (!SlotChosen()) {
-        core::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "loaded.");
+        month::Say(screens_.frmMonthBanner, std::string(kNoSlot) + "loaded.");
         return;
     }
     const files::Result<bool> used = archive_.Used(state_.SaveSlot);
     if (used && !*used) {
-        core::Say(screens_.frmMonthBanner, EmptySlot(state_.SaveSlot));
+        month::Say(screens_.frmMonthBanner, EmptySlot(state_.SaveSlot));
         return;
     }
     const files::Result<core::GameState> loaded = archive_.Load(state_.SaveSlot, state_);
     if (!loaded) {
-        core::Say(screens_.frmMonthBanner, NotLoaded(loaded.Error()));
+        month::Say(screens_.frmMonthBanner, NotLoaded(loaded.Error()));
         return;
     }
     state_ = *loaded;

@@ -6,7 +6,10 @@
 #include "files/written_files.h"
 #include "media/cues.h"
 #include "persist/archive.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_game_loaded.h"
+#include "ui/screens/frm_load.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_save.h"
 #include "ui/toolkit/desktop.h"
 
 #include <string_view>
@@ -15,7 +18,13 @@ namespace shell {
 
 class SavedGames {
 public:
-    SavedGames(core::GameState& state, ui::Desktop& desktop, screens::Screens& screens, media::Sound& sound,
+    struct Screens {
+        screens::FrmSave& frmSave;
+        screens::FrmLoad& frmLoad;
+        screens::FrmGameLoaded& frmGameLoaded;
+        screens::FrmMonthBanner& frmMonthBanner;
+    };
+    SavedGames(core::GameState& state, ui::Desktop& desktop, Screens screens, media::Sound& sound,
                const files::WrittenFiles& files, const core::NumberFormat& format);
 
     void ProSave();  // opens the save screen
@@ -40,7 +49,7 @@ private:
 
     core::GameState& state_;
     ui::Desktop& desktop_;
-    screens::Screens& screens_;
+    Screens screens_;
     media::Sound& sound_;
     persist::Archive archive_;
     const core::NumberFormat& format_;

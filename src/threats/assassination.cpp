@@ -1,7 +1,7 @@
 #include "threats/assassination.h"
 
-#include "core/banner.h"
 #include "core/numbers.h"
+#include "month/banner.h"
 #include "threats/assassination_rules.h"
 
 #include <string>
@@ -20,9 +20,9 @@ std::string SoundFile(std::int64_t number)
 
 }  // namespace
 
-Assassination::Assassination(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
-                             screens::Screens& screens, media::Sound& sound)
-    : state_(state), chance_(chance), monthEnd_(monthEnd), screens_(screens), sound_(sound)
+Assassination::Assassination(core::GameState& state, core::Chance& chance, core::Journal& journal,
+                             month::Month& month, Screens screens, media::Sound& sound)
+    : state_(state), chance_(chance), journal_(journal), month_(month), screens_(screens), sound_(sound)
 {
     screens.frmMes.Command1.onClick = [this] { Acknowledge(); };
     screens.frmAFailed.Command1.onClick = [this] { KillThemAll(); };
@@ -30,23 +30,22 @@ Assassination::Assassination(core::GameState& state, core::Chance& chance, core:
     screens.frmMes1.Command1.onClick = [this] {
         sound_.SoundClick();
         screens_.frmMes1.Hide();
-        CloseMonth();
+        month_.CloseWithSecondHalf();
     };
 }
 
-void Assassination::AssasinThink()
+bool Assassination::AssasinThink()
 {
     const std::int64_t faction = DrawPlotters(state_, chance_);
     if (faction == 0) {
-        if (otherwise) {
-            otherwise();
-        }
-        return;
+        return false;
     }
     BeginAttempt(state_, faction);
+    journal_.Add(core::Kind::Attempt, core::FactionOf(faction));
     screens_.frmMes.Label1.SetText(" Assasination attempt by some of the " +
                                    std::string(PlottersOf(faction).announced) + "!");
     screens_.frmMes.Show();
+    return true;
 }
 
 // The message stays until the pause is over.
@@ -68,13 +67,15 @@ void Assassination::AfterTheWarning()
 void Assassination::AssasinTry()
 {
     if (AttemptKills(state_, chance_)) {
-        core::SayDead(screens_.frmMonthBanner, " Y O U    A R E   D E A D ! ");
+        month::SayDead(screens_.frmMonthBanner, " Y O U    A R E   D E A D ! ");
         state_.Dead = 1;
+        journal_.Add(core::Kind::End, core::FactionOf(state_.AttackingFaction), 0);
         screens_.frmMain.Timer4.SetInterval(kMourning);
         return;
     }
+    journal_.Add(core::Kind::Survived, core::FactionOf(state_.AttackingFaction));
     screens_.frmMain.Timer1.SetInterval(0);
-    core::ClearBanner(screens_.frmMonthBanner);
+    month::ClearBanner(screens_.frmMonthBanner);
     screens_.frmAFailed.Show();
 }
 
@@ -84,7 +85,8 @@ void Assassination::KillThemAll()
     sound_.SoundClick();
     const std::int64_t faction = FactionThatTried(state_);
     if (faction != 0) {
-        ExecutePlotters(state_, chance_, faction);
+        const std::int64_t executed = ExecutePlotters(state_, chance_, faction);
+        journal_.Add(core::Kind::Executed, core::FactionOf(faction), executed);
         screens_.frmMes1.Label1.SetText("The opposition leaders of the " +
                                         std::string(PlottersOf(faction).executed) + " have been executed!");
     }
@@ -98,17 +100,12 @@ void Assassination::LetThemLive()
     const std::int64_t faction = FactionThatTried(state_);
     if (faction != 0) {
         SparePlotters(state_, faction);
+        journal_.Add(core::Kind::Spared, core::FactionOf(faction));
     }
-    core::Say(screens_.frmMonthBanner, "Oh! Mr.President, you are so gracious!");
+    month::Say(screens_.frmMonthBanner, "Oh! Mr.President, you are so gracious!");
     ForgetAttempts(state_);
     screens_.frmAFailed.Hide();
-    CloseMonth();
-}
-
-void Assassination::CloseMonth()
-{
-    core::GiveBack(screens_.frmMain);
-    monthEnd_.EndOfTurn2();
+    month_.CloseWithSecondHalf();
 }
 
 }  // namespace threats

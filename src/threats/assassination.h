@@ -6,35 +6,43 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
-#include "core/month_end.h"
+#include "core/journal.h"
 #include "media/cues.h"
-#include "ui/screens/screens.h"
-
-#include <functional>
+#include "month/month.h"
+#include "ui/screens/frm_a_failed.h"
+#include "ui/screens/frm_main.h"
+#include "ui/screens/frm_mes.h"
+#include "ui/screens/frm_mes1.h"
+#include "ui/screens/frm_month_banner.h"
 
 namespace threats {
 
 class Assassination {
 public:
-    Assassination(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
-                  screens::Screens& screens, media::Sound& sound);
+    struct Screens {
+        screens::FrmMain& frmMain;
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::FrmMes& frmMes;
+        screens::FrmAFailed& frmAFailed;
+        screens::FrmMes1& frmMes1;
+    };
+    Assassination(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+                  Screens screens, media::Sound& sound);
 
-    void AssasinThink();
+    bool AssasinThink();     // whether somebody tries
     void AfterTheWarning();  // when Timer5 has run out
     void AssasinTry();
-
-    std::function<void()> otherwise;  // nobody tried
 
 private:
     void Acknowledge();
     void KillThemAll();
     void LetThemLive();
-    void CloseMonth();
 
     core::GameState& state_;
     core::Chance& chance_;
-    core::MonthEnd& monthEnd_;
-    screens::Screens& screens_;
+    core::Journal& journal_;
+    month::Month& month_;
+    Screens screens_;
     media::Sound& sound_;
 };
 

@@ -1,7 +1,7 @@
 #include "threats/assassination_rules.h"
 
 #include "core/numbers.h"
-#include "threats/uprising.h"
+#include "core/thresholds.h"
 
 #include <algorithm>
 #include <array>
@@ -12,15 +12,13 @@ namespace {
 
 using core::GameState;
 
-constexpr std::int64_t kTooStrongToPlot = 30;  // they would rather start a revolution
-constexpr std::int64_t kPlotsFrom = 65;        // opposition
 constexpr std::int64_t kMonthsBetween = 5;
 constexpr std::int64_t kDeadlyRoll = 2;
 constexpr std::int64_t kGratitude = 10;  // opposition lost by those who are spared
 constexpr std::size_t kSounds = 4;
 
 // clang-format off
-constexpr std::array<Plotters, core::kFactions> kPlotters{{
+constexpr core::PerFaction<Plotters> kPlotters = std::to_array<Plotters>({
     // strength, divisor, executed: people, announced as, executed as
     {6,          1.2,     10, 100,          "Workers",        "Workers"},
     {5,          1.5,     10, 100,          "Peasants",       "Peasants"},
@@ -29,7 +27,7 @@ constexpr std::array<Plotters, core::kFactions> kPlotters{{
     {8,          1.5,      5,  20,          "Landowners",     "Landowners"},
     {9,          1.5,     10,  40,          "Army",           "Army"},
     {10,         1.5,      5,  30,          "Police",         "Police"},
-}};
+});
 // clang-format on
 
 // Opposition that an execution adds, whoever was executed. The police have seen worse.
@@ -58,8 +56,9 @@ std::int64_t DrawPlotters(const GameState& state, core::Chance& chance)
 {
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
         const std::size_t group = n - 1;
-        if (state.Strength[group] < kTooStrongToPlot && state.Opposition[group] >= kPlotsFrom &&
-            state.AssassinWait[n] == 0 && Real(state.Opposition[group]) / 10 > Real(chance.Between(6, 15))) {
+        if (state.Strength[group] < core::kStrongFaction && state.Opposition[group] >= core::kPlotsAt &&
+            state.AssassinWait[n] == 0 &&
+            core::Real(state.Opposition[group]) / 10 > core::Real(chance.Between(6, 15))) {
             return static_cast<std::int64_t>(n);
         }
     }
@@ -80,9 +79,9 @@ bool AttemptKills(GameState& state, core::Chance& chance)
     core::u8 danger = isFaction ? AttemptOf(state, state.AttackingFaction) : core::u8{0};
     danger += state.AssassinationAttempts;
     const core::i16 protection =
-        core::RoundHalfEven(Real(state.Strength[core::PersonalArmy]) * 2.5 - Real(danger));
+        core::RoundHalfEven(core::Real(state.Strength[core::PersonalArmy]) * 2.5 - core::Real(danger));
     state.FactionAttempts += 1;
-    return chance.Draw(Real(protection), 1) <= kDeadlyRoll;
+    return chance.Draw(core::Real(protection), 1) <= kDeadlyRoll;
 }
 
 std::int64_t FactionThatTried(const GameState& state)
@@ -95,17 +94,18 @@ std::int64_t FactionThatTried(const GameState& state)
     return 0;
 }
 
-void ExecutePlotters(GameState& state, core::Chance& chance, std::int64_t faction)
+std::int64_t ExecutePlotters(GameState& state, core::Chance& chance, std::int64_t faction)
 {
     const Plotters& plotters = PlottersOf(faction);
     const core::Group group = core::GroupOfFaction(faction);
-    state.Strength[group] = core::RoundHalfEven(Real(state.Strength[group]) / plotters.thinning);
+    state.Strength[group] = core::RoundHalfEven(core::Real(state.Strength[group]) / plotters.thinning);
     const std::int64_t executed = chance.Between(plotters.fewest, plotters.most);
     state.Victims += executed;
     state.Population[group] -= executed;
     for (const Anger& anger : kAngers) {
         state.Opposition[anger.group] += anger.opposition;
     }
+    return executed;
 }
 
 void SparePlotters(GameState& state, std::int64_t faction)

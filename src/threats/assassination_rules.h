@@ -35,8 +35,8 @@ bool AttemptKills(core::GameState& state, core::Chance& chance);
 // The faction whose attempt stands in the record, or 0.
 std::int64_t FactionThatTried(const core::GameState& state);
 
-// Its Strength is divided (half to even), its leaders die, and the others learn of it.
-void ExecutePlotters(core::GameState& state, core::Chance& chance, std::int64_t faction);
+// Its Strength is divided (half to even), its leaders die, and the others learn of it. Returns how many died.
+std::int64_t ExecutePlotters(core::GameState& state, core::Chance& chance, std::int64_t faction);
 void SparePlotters(core::GameState& state, std::int64_t faction);
 void ForgetAttempts(core::GameState& state);
 

@@ -1,9 +1,9 @@
 #include "threats/civil_war.h"
 
-#include "core/banner.h"
+#include "core/names.h"
 #include "core/society.h"
+#include "month/banner.h"
 #include "threats/civil_war_rules.h"
-#include "threats/uprising.h"
 #include "ui/look/look.h"
 
 #include <string>
@@ -24,19 +24,20 @@ constexpr std::string_view kWon = "You win! Revolutioneries' leaders were arrest
 
 }  // namespace
 
-CivilWar::CivilWar(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
-                   const files::ProgramFolder& folder, screens::Screens& screens, media::Sound& sound,
+CivilWar::CivilWar(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+                   const files::ProgramFolder& folder, Screens screens, media::Sound& sound,
                    const core::NumberFormat& format, Flight& flight)
     : state_(state)
     , chance_(chance)
-    , monthEnd_(monthEnd)
+    , journal_(journal)
+    , month_(month)
     , folder_(folder)
     , screens_(screens)
     , sound_(sound)
     , format_(format)
 {
     screens.frmChoose.Command1.OnClick([this](int button) { Ask(button); });
-    screens.frmChoose.Command2.onClick = [&flight, &screens] { flight.From(screens.frmChoose); };
+    screens.frmChoose.Command2.onClick = [this, &flight] { flight.From(screens_.frmChoose); };
     screens.frmMes2.Command1.onClick = [this] { Never(); };
     screens.frmMes2.Command2.onClick = [this] { Deal(); };
     screens.frmMain.Timer3.onTimer = [this] { Timer3_Timer(); };
@@ -73,14 +74,15 @@ void CivilWar::AskForHelp()
 void CivilWar::ShowCandidates()
 {
     screens::FrmChoose& choose = screens_.frmChoose;
-    int button = 0;
+    candidates_ = 0;
+    away_ = {};
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
-        if (state_.Revolutionaries[n] != 0 || !choose.Command1.Has(button + 1)) {
+        if (state_.Revolutionaries[n] != 0 || !choose.Command1.Has(candidates_ + 1)) {
             continue;
         }
-        ++button;
+        const int button = ++candidates_;
         const auto faction = static_cast<std::int64_t>(n);
-        choose.Command1[button].SetText(std::string(FactionName(faction)) + " Strength at " +
+        choose.Command1[button].SetText(std::string(core::FactionName(faction)) + " Strength at " +
                                         format_.Amount(static_cast<double>(state_.StrengthPct[n - 1])) + "%");
         choose.Command1[button].SetVisible(true);
         state_.ChoiceFaction.at(static_cast<std::size_t>(button)) = faction;
@@ -89,16 +91,18 @@ void CivilWar::ShowCandidates()
 
 void CivilWar::OfferFlightWhenAlone()
 {
-    screens::FrmChoose& choose = screens_.frmChoose;
-    int shown = 0;
-    int askable = 0;
-    for (int button = 1; button < choose.Command1.End(); ++button) {
-        const ui::Control::State& now = choose.Command1[button].Now();
-        shown += now.visible ? 1 : 0;
-        askable += now.visible && now.enabled ? 1 : 0;
+    bool alone = true;
+    for (int button = 1; button <= candidates_; ++button) {
+        alone = alone && Away(button);
     }
-    choose.Command2.SetVisible(askable == 0);
-    Stretch(askable == 0 ? shown + 1 : shown);
+    screens_.frmChoose.Command2.SetVisible(alone);
+    Stretch(alone ? candidates_ + 1 : candidates_);
+}
+
+bool CivilWar::Away(int button) const
+{
+    return away_.at(
+        static_cast<std::size_t>(std::int64_t{state_.ChoiceFaction.at(static_cast<std::size_t>(button))}));
 }
 
 // Makes the dialog a step taller for each button and keeps it in the middle; the last button's place is also
@@ -147,15 +151,14 @@ files::Result<core::Offer> CivilWar::ReadOfferOf(std::int64_t faction) const
 void CivilWar::TurnAway(std::int64_t faction, const files::FileError& error)
 {
     screens::FrmChoose& choose = screens_.frmChoose;
-    const std::string refusal = "Mr.President, the " + std::string(FactionName(faction)) +
+    const std::string refusal = "Mr.President, the " + std::string(core::FactionName(faction)) +
                                 " cannot be asked. " + error.Message() +
                                 ". We have thanked them all the same.";
-    core::Say(screens_.frmMonthBanner, refusal);
+    month::Say(screens_.frmMonthBanner, refusal);
     choose.Label1.SetText(refusal);
-    for (int button = 1; button < choose.Command1.End(); ++button) {
-        if (state_.ChoiceFaction.at(static_cast<std::size_t>(button)) == faction) {
-            choose.Command1[button].SetEnabled(false);
-        }
+    away_.at(static_cast<std::size_t>(faction)) = true;
+    for (int button = 1; button <= candidates_; ++button) {
+        choose.Command1[button].SetEnabled(!Away(button));
     }
     OfferFlightWhenAlone();
 }
@@ -180,13 +183,14 @@ void CivilWar::Deal()
     }
     core::Apply(offer->effects, state_);
     PayAlly(state_, state_.AllyFaction);
+    journal_.Add(core::Kind::Ally, core::FactionOf(state_.AllyFaction), state_.AlliedStrength);
     screens_.frmMes2.Unload();
     screens_.frmChoose.Unload();
     sound_.SoundRev();
     screens_.frmMain.Show();
-    core::Say(screens_.frmMonthBanner,
-              "Your strength is " + core::Digits(state_.AlliedStrength) + "! Revolutioneries' strength is " +
-                  core::Digits(state_.RevolutionaryStrength) + "! A small civil war starts.");
+    month::Say(screens_.frmMonthBanner,
+               "Your strength is " + core::Digits(state_.AlliedStrength) + "! Revolutioneries' strength is " +
+                   core::Digits(state_.RevolutionaryStrength) + "! A small civil war starts.");
     screens_.frmMain.Timer3.SetInterval(kTheFighting);
 }
 
@@ -195,7 +199,7 @@ void CivilWar::Deal()
 void CivilWar::Timer3_Timer()
 {
     screens_.frmMain.Timer3.SetInterval(0);
-    if (state_.CoupState == kArmyChiefBeaten || state_.CoupState == kPoliceChiefBeaten) {
+    if (state_.CoupState == core::kArmyChiefBeaten || state_.CoupState == core::kPoliceChiefBeaten) {
         ReplaceChief();
     } else {
         Fight();
@@ -205,7 +209,9 @@ void CivilWar::Timer3_Timer()
 void CivilWar::Fight()
 {
     screens_.frmMonthBanner.SetBack(look::kBlack);
-    if (BattleIsWon(state_, chance_)) {
+    const bool won = BattleIsWon(state_, chance_);
+    journal_.Add(core::Kind::Battle, core::Who::Nobody, won ? 1 : 0);
+    if (won) {
         Win();
     } else {
         Lose();
@@ -214,32 +220,34 @@ void CivilWar::Fight()
 
 void CivilWar::Lose()
 {
-    core::Say(screens_.frmMonthBanner, kLost, kLostPicture);
+    month::Say(screens_.frmMonthBanner, kLost, kLostPicture);
     state_.Dead = 1;
+    journal_.Add(core::Kind::End, core::Who::Nobody, 0);
     screens_.frmMain.Timer4.SetInterval(kBeforeTheHall);
 }
 
 void CivilWar::Win()
 {
-    core::Say(screens_.frmMonthBanner, kWon, kWonPicture);
+    month::Say(screens_.frmMonthBanner, kWon, kWonPicture);
     PunishRebels(state_, chance_);
     BuryGuards(state_, chance_);
-    monthEnd_.EndOfTurn2();
+    month_.EndOfTurn2();
     state_.PoliceNoInfo = 0;
-    if (state_.CoupState == kArmyChiefRebels || state_.CoupState == kPoliceChiefRebels) {
-        state_.CoupState = state_.CoupState == kArmyChiefRebels ? kArmyChiefBeaten : kPoliceChiefBeaten;
+    if (state_.CoupState == core::kArmyChiefRebels || state_.CoupState == core::kPoliceChiefRebels) {
+        state_.CoupState =
+            state_.CoupState == core::kArmyChiefRebels ? core::kArmyChiefBeaten : core::kPoliceChiefBeaten;
         screens_.frmMain.Timer3.SetInterval(kTheFighting);
     } else {
-        core::GiveBack(screens_.frmMain);
+        month_.Close();
     }
 }
 
 void CivilWar::ReplaceChief()
 {
-    const auto& newChief = state_.CoupState == kArmyChiefBeaten ? newArmyChief : newPoliceChief;
+    const auto& newChief = state_.CoupState == core::kArmyChiefBeaten ? newArmyChief : newPoliceChief;
     newChief([this] {
-        core::GiveBack(screens_.frmMain);
-        state_.CoupState = kNoCoup;
+        state_.CoupState = core::kNoCoup;
+        month_.Close();
     });
 }
 

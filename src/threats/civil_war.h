@@ -10,12 +10,16 @@
 #include "core/cards.h"
 #include "core/chance.h"
 #include "core/game_state.h"
-#include "core/month_end.h"
+#include "core/journal.h"
 #include "core/numbers.h"
 #include "files/program_folder.h"
 #include "media/cues.h"
+#include "month/month.h"
 #include "threats/flight.h"
-#include "ui/screens/screens.h"
+#include "ui/screens/frm_choose.h"
+#include "ui/screens/frm_main.h"
+#include "ui/screens/frm_mes2.h"
+#include "ui/screens/frm_month_banner.h"
 
 #include <functional>
 
@@ -23,8 +27,14 @@ namespace threats {
 
 class CivilWar {
 public:
-    CivilWar(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
-             const files::ProgramFolder& folder, screens::Screens& screens, media::Sound& sound,
+    struct Screens {
+        screens::FrmMain& frmMain;
+        screens::FrmMonthBanner& frmMonthBanner;
+        screens::FrmChoose& frmChoose;
+        screens::FrmMes2& frmMes2;
+    };
+    CivilWar(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+             const files::ProgramFolder& folder, Screens screens, media::Sound& sound,
              const core::NumberFormat& format, Flight& flight);
 
     void StandAgainst(ui::Form& dialog);  // "Stay and fight!"
@@ -39,6 +49,7 @@ private:
     void AskForHelp();
     void ShowCandidates();
     void OfferFlightWhenAlone();
+    bool Away(int button) const;
     void Stretch(int buttons);
     void Ask(int button);
     void Never();
@@ -53,11 +64,14 @@ private:
 
     core::GameState& state_;
     core::Chance& chance_;
-    core::MonthEnd& monthEnd_;
+    core::Journal& journal_;
+    month::Month& month_;
     const files::ProgramFolder& folder_;
-    screens::Screens& screens_;
+    Screens screens_;
     media::Sound& sound_;
     const core::NumberFormat& format_;
+    int candidates_ = 0;                   // how many stand on frmChoose
+    core::PerFactionNumber<bool> away_{};  // who turned out not to be there, by faction number
 };
 
 }  // namespace threats

@@ -1,7 +1,7 @@
 #include "threats/civil_war_rules.h"
 
+#include "core/actions.h"
 #include "core/numbers.h"
-#include "threats/uprising.h"
 
 #include <array>
 
@@ -16,20 +16,20 @@ struct BudgetPrice {
     std::int64_t ally;  // faction number
     core::i32 GameState::*line;
     double percent;
-    std::array<std::size_t, 2> bars;  // actions; 0 = none
+    std::array<std::int64_t, 2> bars;  // actions; 0 = none
 };
 // clang-format off
 constexpr BudgetPrice kBudgetPrices[] = {
-    {1, &GameState::ExpEducation,     40, {1, 2}},
-    {1, &GameState::ExpHealth,        40, {3, 4}},
-    {1, &GameState::ExpUnemployment,  40, {11, 12}},
-    {3, &GameState::ExpAllowances,    50, {5, 6}},
-    {3, &GameState::ExpPolice,       -20, {9, 10}},
-    {5, &GameState::ExpState,         50, {18, 0}},
-    {6, &GameState::ExpArmy,          50, {7, 8}},
-    {6, &GameState::ExpPolice,       -20, {9, 10}},
-    {7, &GameState::ExpArmy,         -40, {7, 8}},
-    {7, &GameState::ExpPolice,        40, {9, 10}},
+    {1, &GameState::ExpEducation,     40, {core::kCutEducation, core::kRaiseEducation}},
+    {1, &GameState::ExpHealth,        40, {core::kCutHealth, core::kRaiseHealth}},
+    {1, &GameState::ExpUnemployment,  40, {core::kCutUnemployment, core::kRaiseUnemployment}},
+    {3, &GameState::ExpAllowances,    50, {core::kCutAllowances, core::kRaiseAllowances}},
+    {3, &GameState::ExpPolice,       -20, {core::kCutPoliceFunds, core::kRaisePoliceFunds}},
+    {5, &GameState::ExpState,         50, {core::kAttackGuerrillas, 0}},
+    {6, &GameState::ExpArmy,          50, {core::kCutArmyFunds, core::kRaiseArmyFunds}},
+    {6, &GameState::ExpPolice,       -20, {core::kCutPoliceFunds, core::kRaisePoliceFunds}},
+    {7, &GameState::ExpArmy,         -40, {core::kCutArmyFunds, core::kRaiseArmyFunds}},
+    {7, &GameState::ExpPolice,        40, {core::kCutPoliceFunds, core::kRaisePoliceFunds}},
 };
 // clang-format on
 
@@ -49,7 +49,7 @@ constexpr CashPrice kCashPrices[] = {{4, 50'000'000}, {5, 25'000'000}};
 constexpr std::int64_t kWantsGuerrillasDead = 5;  // the landowners
 
 // Strength that a defeated faction loses, by faction.
-constexpr std::array<std::int64_t, core::kFactions> kDefeat{8, 8, 5, 7, 7, 10, 5};
+constexpr core::PerFaction<std::int64_t> kDefeat = std::to_array<std::int64_t>({8, 8, 5, 7, 7, 10, 5});
 constexpr std::int64_t kMonthsOfPeace = 5;
 constexpr std::int64_t kLessonLearned = 10;  // Opposition
 
@@ -61,8 +61,8 @@ void Pay(GameState& state, std::int64_t dollars)
 // That many of the people, between two percentages of them, each rounded half to even by itself.
 std::int64_t DrawShare(core::Chance& chance, std::int64_t people, double fewest, double most)
 {
-    return chance.Between(core::RoundHalfEven(Real(people) / 100 * fewest),
-                          core::RoundHalfEven(Real(people) / 100 * most));
+    return chance.Between(core::RoundHalfEven(core::Real(people) / 100 * fewest),
+                          core::RoundHalfEven(core::Real(people) / 100 * most));
 }
 
 }  // namespace
@@ -72,9 +72,9 @@ void PayAlly(GameState& state, std::int64_t faction)
     for (const BudgetPrice& price : kBudgetPrices) {
         if (price.ally == faction) {
             state.*price.line = core::ChangedByPercent(state.*price.line, price.percent);
-            for (const std::size_t action : price.bars) {
+            for (const std::int64_t action : price.bars) {
                 if (action != 0) {
-                    state.ActionDone[action] = 1;
+                    state.ActionDone.at(static_cast<std::size_t>(action)) = 1;
                 }
             }
         }
@@ -132,7 +132,7 @@ void BuryGuards(GameState& state, core::Chance& chance)
     }
     const std::int64_t killed = DrawShare(chance, state.Population[core::PersonalArmy], 20, 30);
     state.Strength[core::PersonalArmy] =
-        core::RoundHalfEven(Real(state.Strength[core::PersonalArmy]) - Real(killed) / 100);
+        core::RoundHalfEven(core::Real(state.Strength[core::PersonalArmy]) - core::Real(killed) / 100);
     state.Victims += killed;
     state.Population[core::PersonalArmy] -= killed;
 }

@@ -1,6 +1,7 @@
 #include "threats/flight.h"
 
-#include "core/banner.h"
+#include "core/actions.h"
+#include "month/banner.h"
 #include "threats/revolution_rules.h"
 #include "ui/look/look.h"
 
@@ -8,7 +9,6 @@ namespace threats {
 
 namespace {
 
-constexpr std::size_t kHelicopter = 25;   // the action that buys it
 constexpr std::int64_t kOnTheWay = 5000;  // milliseconds
 constexpr std::int64_t kBeforeTheHall = 6000;
 
@@ -22,9 +22,9 @@ constexpr std::string_view kEscaped = "Congratulations! You made it alive to the
 
 }  // namespace
 
-Flight::Flight(core::GameState& state, core::Chance& chance, screens::FrmMain& main,
+Flight::Flight(core::GameState& state, core::Chance& chance, core::Journal& journal, screens::FrmMain& main,
                screens::FrmMonthBanner& banner, media::Sound& sound)
-    : state_(state), chance_(chance), main_(main), banner_(banner), sound_(sound)
+    : state_(state), chance_(chance), journal_(journal), main_(main), banner_(banner), sound_(sound)
 {
     main.Timer2.onTimer = [this] { Timer2_Timer(); };
 }
@@ -34,8 +34,10 @@ void Flight::From(ui::Form& dialog)
     sound_.SoundClick();
     dialog.Hide();
     main_.Timer2.SetInterval(kOnTheWay);
-    if (state_.ActionDone[kHelicopter] == 1) {
-        core::Say(banner_, "You try to leave the country, using your escape helicopter.", kByHelicopter);
+    const bool flies = state_.ActionDone[core::kBuyHelicopter] == 1;
+    journal_.Add(core::Kind::Flight, core::Who::Nobody, flies ? 1 : 0);
+    if (flies) {
+        month::Say(banner_, "You try to leave the country, using your escape helicopter.", kByHelicopter);
         if (HelicopterEscapes(state_, chance_)) {
             sound_.SoundHeliOK();
             state_.Dead = 0;
@@ -44,7 +46,7 @@ void Flight::From(ui::Form& dialog)
             sound_.SoundHeliNo();
         }
     } else {
-        core::Say(banner_, "You try to leave the country on foot!", kOnFoot);
+        month::Say(banner_, "You try to leave the country on foot!", kOnFoot);
         state_.Dead = WalkEscapes(chance_) ? 0 : 1;
     }
     main_.Show();
@@ -54,10 +56,11 @@ void Flight::Timer2_Timer()
 {
     banner_.SetBack(look::kBlack);
     if (state_.Dead == 1) {
-        core::Say(banner_, kExecuted, kAtTheWall);
+        month::Say(banner_, kExecuted, kAtTheWall);
     } else {
-        core::Say(banner_, kEscaped);
+        month::Say(banner_, kEscaped);
     }
+    journal_.Add(core::Kind::End, core::Who::Nobody, state_.Dead == 1 ? 0 : 1);
     main_.Timer4.SetInterval(kBeforeTheHall);
     main_.Timer2.SetInterval(0);
 }

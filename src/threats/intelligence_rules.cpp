@@ -1,17 +1,13 @@
 #include "threats/intelligence_rules.h"
 
-#include "threats/uprising.h"
+#include "core/names.h"
+#include "core/thresholds.h"
 
 #include <string_view>
 
 namespace threats {
 
 namespace {
-
-constexpr std::int64_t kStarts = 65;  // Opposition
-constexpr std::int64_t kSupports = 55;
-constexpr std::int64_t kPlots = 65;
-constexpr std::int64_t kStrong = 30;  // who has this Strength starts a revolution; who has less, kills
 
 constexpr std::string_view kNoAttempt =
     " Also notice that we will not have any assasination attempts next month!";
@@ -23,10 +19,16 @@ constexpr std::string_view kDangerousAttempt =
     " Be carefull, we could have a strong and really dangerous assasination attempt next month!";
 
 // By faction; the last of the possible assassins is the one who is warned of.
-constexpr core::PerFactionNumber<std::string_view> kWarnings{
-    kNoAttempt,     kWeakAttempt,   kWeakAttempt,      kWeakAttempt,
-    kStrongAttempt, kStrongAttempt, kDangerousAttempt, kDangerousAttempt,
-};
+constexpr core::PerFactionNumber<std::string_view> kWarnings = std::to_array({
+    kNoAttempt,
+    kWeakAttempt,
+    kWeakAttempt,
+    kWeakAttempt,
+    kStrongAttempt,
+    kStrongAttempt,
+    kDangerousAttempt,
+    kDangerousAttempt,
+});
 
 // The names of the factions marked, "first" before the first and "next" before each other.
 std::string Names(const core::PerFactionNumber<bool>& marked, std::string_view first, std::string_view next)
@@ -35,7 +37,7 @@ std::string Names(const core::PerFactionNumber<bool>& marked, std::string_view f
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
         if (marked[n]) {
             names += names.empty() ? first : next;
-            names += FactionName(static_cast<std::int64_t>(n));
+            names += core::FactionName(static_cast<std::int64_t>(n));
         }
     }
     return names;
@@ -57,11 +59,11 @@ Forecast Foresee(const core::GameState& state)
     Forecast forecast;
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
         const std::int64_t opposition = state.Opposition[n - 1];
-        const bool strong = state.Strength[n - 1] >= kStrong;
+        const bool strong = state.Strength[n - 1] >= core::kStrongFaction;
         const bool mayRise = state.RevolutionWait[n] == 0;
-        forecast.starters[n] = opposition >= kStarts && strong && mayRise;
-        forecast.supporters[n] = !forecast.starters[n] && opposition >= kSupports && mayRise;
-        forecast.assassins[n] = opposition >= kPlots && !strong && state.AssassinWait[n] == 0;
+        forecast.starters[n] = opposition >= core::kWarnedOfStartAt && strong && mayRise;
+        forecast.supporters[n] = !forecast.starters[n] && opposition >= core::kWarnedOfJoiningAt && mayRise;
+        forecast.assassins[n] = opposition >= core::kPlotsAt && !strong && state.AssassinWait[n] == 0;
     }
     return forecast;
 }

@@ -2,7 +2,7 @@
 
 #include "core/numbers.h"
 #include "core/society.h"
-#include "threats/uprising.h"
+#include "core/thresholds.h"
 
 #include <algorithm>
 #include <array>
@@ -19,13 +19,13 @@ struct Revolt {
     std::size_t joining;           // factions 1 .. this
     std::int64_t guerrillasSpend;  // Strength
 };
-constexpr Revolt kGuerrillas{core::Guerrillas, 15, 5, 8};
-constexpr Revolt kPrisoners{core::Prisoners, 12, 2, 5};
+constexpr Revolt kGuerrillas{core::Guerrillas, core::kGuerrillasRiseAt, 5, 8};
+constexpr Revolt kPrisoners{core::Prisoners, core::kPrisonersRiseAt, 2, 5};
 
-constexpr std::array kZeal{1.2, 1.3, 1.5};  // by Difficulty
+constexpr core::PerLevel<double> kZeal = std::to_array({1.2, 1.3, 1.5});
 
 // Strength that the taxed factions gain: what a lost civil war takes from them again.
-constexpr std::array<std::int64_t, core::kTaxed> kUprising{8, 8, 5, 7, 7};
+constexpr core::PerTaxed<std::int64_t> kUprising = std::to_array<std::int64_t>({8, 8, 5, 7, 7});
 constexpr std::int64_t kJoinersHatred = 5;
 constexpr std::int64_t kAlwaysCaught = 5;  // percent of those who rise, beside their strength
 
@@ -36,12 +36,10 @@ bool Ready(const GameState& state, const Revolt& revolt)
 
 void GatherRebels(GameState& state, const Revolt& revolt)
 {
-    const auto level =
-        static_cast<std::size_t>(std::clamp<std::int64_t>(state.Difficulty, core::kEasy, core::kHard));
     const std::int64_t bonus = UnrestBonus(state);
     if (Ready(state, revolt)) {
-        state.RevolutionaryStrength =
-            core::RoundHalfEven(Real(state.Strength[revolt.rising] + bonus) * kZeal[level]);
+        state.RevolutionaryStrength = core::RoundHalfEven(core::Real(state.Strength[revolt.rising] + bonus) *
+                                                          kZeal[core::LevelIndex(state.Difficulty)]);
     }
     if (revolt.rising == core::Prisoners) {
         state.RevolutionaryStrength += state.Strength[core::Guerrillas];
@@ -61,8 +59,8 @@ void StirFactions(GameState& state)
 
 void Shoot(GameState& state, core::Group group)
 {
-    const std::int64_t killed = core::RoundHalfEven(Real(state.Population[group]) / 100 *
-                                                    Real(state.Strength[group] + kAlwaysCaught));
+    const std::int64_t killed = core::RoundHalfEven(core::Real(state.Population[group]) / 100 *
+                                                    core::Real(state.Strength[group] + kAlwaysCaught));
     state.Population[group] -= killed;
     state.Victims += killed;
 }
@@ -74,7 +72,7 @@ std::int64_t Raise(GameState& state, const Revolt& revolt)
     GatherRebels(state, revolt);
     core::UpdateTotalStrength(state);
     const std::int64_t share =
-        core::RoundHalfEven(PercentOf(state.RevolutionaryStrength, state.TotalStrength));
+        core::RoundHalfEven(core::PercentOf(state.RevolutionaryStrength, state.TotalStrength));
     StirFactions(state);
     state.Strength[core::Guerrillas] -= revolt.guerrillasSpend;
     Shoot(state, core::Guerrillas);

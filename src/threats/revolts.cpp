@@ -6,30 +6,51 @@
 
 namespace threats {
 
-Revolts::Revolts(core::GameState& state, screens::Screens& screens, media::Sound& sound, Flight& flight,
-                 CivilWar& civilWar)
-    : state_(state), screens_(screens), sound_(sound)
+Revolts::Revolts(core::GameState& state, core::Journal& journal, Screens screens, media::Sound& sound,
+                 Flight& flight, CivilWar& civilWar)
+    : state_(state), journal_(journal), screens_(screens), sound_(sound)
 {
-    screens.frmGRev.Command1.onClick = [&flight, &screens] { flight.From(screens.frmGRev); };
-    screens.frmGRev.Command2.onClick = [&civilWar, &screens] { civilWar.StandAgainst(screens.frmGRev); };
-    screens.frmPrRev.Command1.onClick = [&flight, &screens] { flight.From(screens.frmPrRev); };
-    screens.frmPrRev.Command2.onClick = [&civilWar, &screens] { civilWar.StandAgainst(screens.frmPrRev); };
+    const auto bind = [&flight, &civilWar](auto& dialog) {
+        dialog.Command1.onClick = [&flight, &dialog] { flight.From(dialog); };
+        dialog.Command2.onClick = [&civilWar, &dialog] { civilWar.StandAgainst(dialog); };
+    };
+    bind(screens.frmGRev);
+    bind(screens.frmPrRev);
+}
+
+bool Revolts::GuerrillasRise()
+{
+    if (!GuerrillasAreReady(state_)) {
+        return false;
+    }
+    Guerillas();
+    return true;
+}
+
+bool Revolts::PrisonersRise()
+{
+    if (!PrisonersAreReady(state_)) {
+        return false;
+    }
+    Prisoners();
+    return true;
 }
 
 void Revolts::Guerillas()
 {
     const std::int64_t share = RaiseGuerrillas(state_);
-    Announce(screens_.frmGRev, screens_.frmGRev.Label3, share);
+    Announce(core::Guerrillas, screens_.frmGRev, screens_.frmGRev.Label3, share);
 }
 
 void Revolts::Prisoners()
 {
     const std::int64_t share = RaisePrisoners(state_);
-    Announce(screens_.frmPrRev, screens_.frmPrRev.Label3, share);
+    Announce(core::Prisoners, screens_.frmPrRev, screens_.frmPrRev.Label3, share);
 }
 
-void Revolts::Announce(ui::Form& dialog, ui::Label& share, std::int64_t percent)
+void Revolts::Announce(core::Group who, ui::Form& dialog, ui::Label& share, std::int64_t percent)
 {
+    journal_.Add(core::Kind::Revolt, core::WhoIs(who), percent);
     screens_.frmMonthBanner.SetBack(look::kRed);
     sound_.SoundCroud();
     dialog.Show();

@@ -1,8 +1,9 @@
 #include "threats/revolution_rules.h"
 
+#include "core/names.h"
 #include "core/numbers.h"
 #include "core/society.h"
-#include "threats/uprising.h"
+#include "core/thresholds.h"
 
 #include <string_view>
 #include <vector>
@@ -13,20 +14,18 @@ namespace {
 
 using core::GameState;
 
-constexpr std::int64_t kStartsFromStrength = 30;
-constexpr std::int64_t kStartsAboveOpposition = 65;
-constexpr std::int64_t kJoinsAboveOpposition = 55;
-
 bool Dares(const GameState& state, core::Chance& chance, std::size_t faction, std::int64_t die)
 {
-    const bool hatesEnough = Real(state.Opposition[faction - 1]) / 10 > Real(chance.Between(1, die));
+    const bool hatesEnough =
+        core::Real(state.Opposition[faction - 1]) / 10 > core::Real(chance.Between(1, die));
     return hatesEnough && state.RevolutionWait[faction] == 0;
 }
 
 void DrawJoiners(GameState& state, core::Chance& chance, std::size_t starter)
 {
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
-        if (n != starter && state.Opposition[n - 1] > kJoinsAboveOpposition && Dares(state, chance, n, 10)) {
+        if (n != starter && state.Opposition[n - 1] >= core::kJoinsRevolutionAt &&
+            Dares(state, chance, n, 10)) {
             state.Revolutionaries[n] = 1;
         }
     }
@@ -38,7 +37,7 @@ std::vector<std::string_view> Joined(const GameState& state)
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
         const auto number = static_cast<std::int64_t>(n);
         if (state.Revolutionaries[n] == 1 && state.RevolutionStarter != number) {
-            names.push_back(FactionName(number));
+            names.push_back(core::FactionName(number));
         }
     }
     return names;
@@ -61,8 +60,8 @@ std::string List(const std::vector<std::string_view>& names)
 void DrawRevolution(GameState& state, core::Chance& chance)
 {
     for (std::size_t n = 1; n <= core::kFactions; ++n) {
-        if (state.Strength[n - 1] >= kStartsFromStrength &&
-            state.Opposition[n - 1] > kStartsAboveOpposition && Dares(state, chance, n, 12)) {
+        if (state.Strength[n - 1] >= core::kStrongFaction &&
+            state.Opposition[n - 1] >= core::kStartsRevolutionAt && Dares(state, chance, n, 12)) {
             state.RevolutionStarter = static_cast<std::int64_t>(n);
             state.Revolutionaries[n] = 1;
             DrawJoiners(state, chance, n);
@@ -79,12 +78,13 @@ void MeasureRevolution(GameState& state)
         }
     }
     core::UpdateTotalStrength(state);
-    state.RevolutionaryPct = core::RoundHalfEven(PercentOf(state.RevolutionaryStrength, state.TotalStrength));
+    state.RevolutionaryPct =
+        core::RoundHalfEven(core::PercentOf(state.RevolutionaryStrength, state.TotalStrength));
 }
 
 std::string RevolutionMessage(const GameState& state)
 {
-    const std::string starter(FactionName(state.RevolutionStarter));
+    const std::string starter(core::FactionName(state.RevolutionStarter));
     const std::string question =
         " strength is at " + core::Digits(state.RevolutionaryPct) + "% what do you want to do?";
     const std::vector<std::string_view> joined = Joined(state);
@@ -98,7 +98,7 @@ std::string RevolutionMessage(const GameState& state)
 bool HelicopterEscapes(const GameState& state, core::Chance& chance)
 {
     const std::int64_t luck = chance.Between(1, 30) + state.Strength[core::PersonalArmy];
-    return Real(state.RevolutionaryStrength) / 10 <= Real(luck);
+    return core::Real(state.RevolutionaryStrength) / 10 <= core::Real(luck);
 }
 
 bool WalkEscapes(core::Chance& chance)

@@ -1,6 +1,5 @@
 #include "threats/war_outcome.h"
 
-#include "core/banner.h"
 #include "threats/war_rules.h"
 #include "ui/look/look.h"
 
@@ -14,19 +13,29 @@ constexpr std::string_view kDefeat =
 
 }  // namespace
 
+bool WarOutcome::WarIsDecided()
+{
+    if (state_.War == 0) {
+        return false;
+    }
+    CheckVictory();
+    return true;
+}
+
 void WarOutcome::CheckVictory()
 {
+    const core::Who enemy = core::NeighbourOf(state_.War);
     const bool won = WarIsWon(state_, chance_);
-    screens_.frmMonthBanner.SetBack(look::kBlack);
-    screens_.frmWAR.Label1.SetText(won ? kVictory : kDefeat);
-    screens_.frmWAR.Show();
+    journal_.Add(core::Kind::War, enemy, won ? 1 : 0);
+    banner_.SetBack(look::kBlack);
+    dialog_.Label1.SetText(won ? kVictory : kDefeat);
+    dialog_.Show();
     if (won) {
         TakeVictory(state_);
     } else {
         TakeDefeat(state_);
     }
-    monthEnd_.EndOfTurn2();
-    core::GiveBack(screens_.frmMain);
+    month_.CloseWithSecondHalf();
 }
 
 }  // namespace threats

@@ -3,25 +3,30 @@
 
 #include "core/chance.h"
 #include "core/game_state.h"
-#include "core/month_end.h"
-#include "ui/screens/screens.h"
+#include "core/journal.h"
+#include "month/month.h"
+#include "ui/screens/frm_month_banner.h"
+#include "ui/screens/frm_war.h"
 
 namespace threats {
 
 class WarOutcome {
 public:
-    WarOutcome(core::GameState& state, core::Chance& chance, core::MonthEnd& monthEnd,
-               screens::Screens& screens)
-        : state_(state), chance_(chance), monthEnd_(monthEnd), screens_(screens)
+    WarOutcome(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
+               screens::FrmMonthBanner& banner, screens::FrmWAR& dialog)
+        : state_(state), chance_(chance), journal_(journal), month_(month), banner_(banner), dialog_(dialog)
     {}
 
+    bool WarIsDecided();  // a declared one always is
     void CheckVictory();
 
 private:
     core::GameState& state_;
     core::Chance& chance_;
-    core::MonthEnd& monthEnd_;
-    screens::Screens& screens_;
+    core::Journal& journal_;
+    month::Month& month_;
+    screens::FrmMonthBanner& banner_;
+    screens::FrmWAR& dialog_;
 };
 
 }  // namespace threats

@@ -1,10 +1,10 @@
 #include "threats/war_rules.h"
 
 #include "core/budget.h"
+#include "core/names.h"
 #include "core/numbers.h"
 #include "core/officers.h"
 #include "core/society.h"
-#include "threats/uprising.h"
 
 #include <algorithm>
 #include <array>
@@ -19,22 +19,16 @@ using core::GameState;
 constexpr std::array kLeadership{0.4, 0.5, 0.6, 0.7, 0.8, 0.9, 1.0, 1.1, 1.2, 1.3};
 
 // By War; peace has no enemy.
-constexpr std::array<core::i16 GameState::*, 3> kEnemies{
-    &GameState::HermositaStrength, &GameState::FerazStrength, &GameState::DescalzaStrength};
+constexpr std::array<core::i16 GameState::*, core::kNeighbours> kEnemies =
+    std::to_array({&GameState::HermositaStrength, &GameState::FerazStrength, &GameState::DescalzaStrength});
 
 // Opposition after a defeat.
-struct Blame {
-    core::Group group;
-    std::int64_t opposition;
-};
-constexpr Blame kBlames[] = {
-    {core::Workers, 5},    {core::Peasants, 5}, {core::Businessmen, 5}, {core::Industrialists, 5},
-    {core::Landowners, 5}, {core::Army, 15},    {core::Police, 5},
-};
+constexpr core::PerFaction<std::int64_t> kBlame = std::to_array<std::int64_t>({5, 5, 5, 5, 5, 15, 5});
 
 std::int64_t Enemy(const GameState& state)
 {
-    const auto enemy = static_cast<std::size_t>(std::clamp<std::int64_t>(state.War, 1, 3)) - 1;
+    const auto enemy =
+        static_cast<std::size_t>(std::clamp<std::int64_t>(state.War, 1, std::int64_t{core::kNeighbours})) - 1;
     return state.*kEnemies[enemy];
 }
 
@@ -42,12 +36,12 @@ std::int64_t OurArmy(const GameState& state)
 {
     const auto ability =
         static_cast<std::size_t>(std::clamp<std::int64_t>(core::Ability(state.ArmyChiefs), 1, 10)) - 1;
-    return core::RoundHalfEven(Real(state.Strength[core::Army]) * kLeadership[ability]);
+    return core::RoundHalfEven(core::Real(state.Strength[core::Army]) * kLeadership[ability]);
 }
 
 void BurySoldiers(GameState& state, double percent)
 {
-    const std::int64_t fallen = core::RoundHalfEven(Real(state.Population[core::Army]) / 100 * percent);
+    const std::int64_t fallen = core::RoundHalfEven(core::Real(state.Population[core::Army]) / 100 * percent);
     state.Population[core::Army] -= fallen;
     state.Victims += fallen;
 }
@@ -75,8 +69,8 @@ void TakeVictory(GameState& state)
 
 void TakeDefeat(GameState& state)
 {
-    for (const Blame& blame : kBlames) {
-        state.Opposition[blame.group] += blame.opposition;
+    for (std::size_t f = 0; f < core::kFactions; ++f) {
+        state.Opposition[f] += kBlame[f];
     }
     state.Strength[core::Army] = core::ChangedByPercent(state.Strength[core::Army], -20);
     state.AmericanHostility += 20;

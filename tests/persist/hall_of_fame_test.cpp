@@ -19,9 +19,9 @@ using testing::HasSubstr;
 constexpr const char* kFile = "Data/Top";
 
 // Ten that score 1000, 900, .. 100 points on easy.
-persist::Hall Ladder()
+persist::HallList Ladder()
 {
-    persist::Hall hall;
+    persist::HallList hall;
     for (std::size_t i = 0; i < hall.size(); ++i) {
         hall[i].name = "old " + std::to_string(i);
         hall[i].fortune = 100'000'000 - 10'000'000 * static_cast<std::int64_t>(i);
@@ -72,7 +72,7 @@ TEST(HallOfFame, PlacesANewEntry)
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.why);
-        persist::Hall hall = Ladder();
+        persist::HallList hall = Ladder();
         persist::Enter(hall, {.name = "new", .fortune = c.fortune}, c.dead);
         std::vector<std::string> expected;
         for (std::size_t i = 0; expected.size() < persist::kHallPlaces; ++i) {
@@ -88,7 +88,7 @@ TEST(HallOfFame, PlacesANewEntry)
         }
         EXPECT_EQ(names, expected);
     }
-    persist::Hall poor = Ladder();
+    persist::HallList poor = Ladder();
     poor[6].fortune = 0;
     persist::Enter(poor, {.name = "new", .fortune = 5'000'000}, true);
     EXPECT_EQ(poor[6].name, "new") << "the first place whose score is nothing";
@@ -117,13 +117,13 @@ class HallFile : public testing::Test {
 protected:
     std::string Enter(const HallEntry& entry)
     {
-        return persist::HallOfFame(files_).Enter(entry, false).trouble;
+        return persist::HallFile(files_).Enter(entry, false).trouble;
     }
-    persist::Hall ReadBack()
+    persist::HallList ReadBack()
     {
-        const auto hall = persist::HallOfFame(files_).Read();
+        const auto hall = persist::HallFile(files_).Read();
         EXPECT_TRUE(hall) << hall.Error().Message();
-        return hall ? *hall : persist::Hall{};
+        return hall ? *hall : persist::HallList{};
     }
 
     test::TemporaryFolder folder_;
@@ -136,14 +136,14 @@ TEST_F(HallFile, KeepsItsFormForEver)
 {
     const auto shipped = files::ReadWhole(test::Assets() / kFile, kFile);
     folder_.Write(kFile, *shipped);
-    const persist::Hall hall = ReadBack();
+    const persist::HallList hall = ReadBack();
     EXPECT_EQ(persist::WriteHall(hall), *shipped);
     EXPECT_LT(persist::Score(hall[9]), 10'000'000) << "a first good game gets in";
     EXPECT_TRUE(std::is_sorted(hall.rbegin(), hall.rend(), [](const HallEntry& a, const HallEntry& b) {
         return persist::Score(a) < persist::Score(b);
     }));
 
-    persist::Hall strange = Ladder();
+    persist::HallList strange = Ladder();
     strange[0] = {"Ñ \"the\r\n, 大\"", -2'147'483'648, -32'768, 255, 255, 2'147'483'647, 2};
     folder_.Write(kFile, persist::WriteHall(strange));
     EXPECT_EQ(persist::WriteHall(ReadBack()), persist::WriteHall(strange));
@@ -173,7 +173,7 @@ TEST_F(HallFile, IsKeptUnderAnotherNameWhenItCannotBeRead)
     for (const Case& c : cases) {
         SCOPED_TRACE(c.why);
         folder_.Write(kFile, c.content);
-        EXPECT_FALSE(persist::HallOfFame(files_).Read());
+        EXPECT_FALSE(persist::HallFile(files_).Read());
         EXPECT_EQ(folder_.Read(kFile), c.content) << "looking at it changed it";
         const std::string aside = "Data/Top.unreadable" + (++number > 1 ? "-" + std::to_string(number) : "");
         EXPECT_THAT(Enter({.name = "Ada", .fortune = 7}),
@@ -223,13 +223,13 @@ TEST_F(HallFile, LosesNoEntryOfGamesThatEndAtTheSameMoment)
                 files::SystemCalls system;
                 const files::WrittenFiles own(programFolder_, system);
                 const HallEntry entry{.name = "game " + std::to_string(i), .fortune = 1'000'000 + i};
-                _exit(persist::HallOfFame(own).Enter(entry, false).trouble.empty() ? 0 : 1);
+                _exit(persist::HallFile(own).Enter(entry, false).trouble.empty() ? 0 : 1);
             }));
         }
         for (const pid_t game : games) {
             EXPECT_TRUE(test::Ended(game));
         }
-        const persist::Hall hall = ReadBack();
+        const persist::HallList hall = ReadBack();
         for (std::size_t i = 0; i < hall.size(); ++i) {
             EXPECT_EQ(hall[i].name, "game " + std::to_string(9 - i));
         }

@@ -4,6 +4,7 @@
 #include "core/chance.h"
 #include "core/game_state.h"
 #include "files/program_folder.h"
+#include "month/month.h"
 #include "ui/screens/frm_main.h"
 #include "ui/screens/frm_month_banner.h"
 
@@ -11,12 +12,12 @@
 #include <string>
 #include <vector>
 
-namespace core {
+namespace month {
 
 class NewGame {
 public:
-    NewGame(GameState& state, Chance& chance, const files::ProgramFolder& folder, screens::FrmMain& main,
-            screens::FrmMonthBanner& banner);
+    NewGame(core::GameState& state, core::Chance& chance, const files::ProgramFolder& folder, Month& month,
+            screens::FrmMain& main, screens::FrmMonthBanner& banner);
 
     // Start values of the level in state.Difficulty, the officers and the welcome. Runs whenever the main
     // screen is loaded.
@@ -28,10 +29,11 @@ private:
     // Empty, or what is wrong with the list of names; the officers then go by number.
     std::optional<std::string> TryCreateChiefs();
 
-    GameState& state_;
-    Chance& chance_;
+    core::GameState& state_;
+    core::Chance& chance_;
     const files::ProgramFolder& folder_;
+    Month& month_;
     screens::FrmMonthBanner& banner_;
 };
 
-}  // namespace core
+}  // namespace month

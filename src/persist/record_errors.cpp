@@ -1,4 +1,4 @@
-#include "persist/found.h"
+#include "persist/record_errors.h"
 
 #include "core/short_text.h"
 

@@ -1,4 +1,4 @@
-// Rules of the month end, in its two halves. They show nothing; core/month_end.h tells the story.
+// Rules of the month end, in its two halves. They show nothing; month/month.h tells the story.
 #pragma once
 
 #include "core/chance.h"

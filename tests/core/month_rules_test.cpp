@@ -1,4 +1,4 @@
-#include "core/month.h"
+#include "core/month_rules.h"
 
 #include "core/society.h"
 #include "core/start_values.h"

@@ -1,10 +1,10 @@
-#include "core/new_game.h"
+#include "month/new_game.h"
 
-#include "core/banner.h"
 #include "core/officers.h"
 #include "core/start_values.h"
+#include "month/banner.h"
 
-namespace core {
+namespace month {
 
 namespace {
 
@@ -21,18 +21,19 @@ std::string NamesLost(const std::string& why)
 
 }  // namespace
 
-NewGame::NewGame(GameState& state, Chance& chance, const files::ProgramFolder& folder, screens::FrmMain& main,
-                 screens::FrmMonthBanner& banner)
-    : state_(state), chance_(chance), folder_(folder), banner_(banner)
+NewGame::NewGame(core::GameState& state, core::Chance& chance, const files::ProgramFolder& folder,
+                 Month& month, screens::FrmMain& main, screens::FrmMonthBanner& banner)
+    : state_(state), chance_(chance), folder_(folder), month_(month), banner_(banner)
 {
     main.onLoad = [this] { Initialize(); };
 }
 
 void NewGame::Initialize()
 {
-    DrawNeighbours(state_, chance_);
+    month_.Forget();
+    core::DrawNeighbours(state_, chance_);
     const std::optional<std::string> lost = TryCreateChiefs();
-    SetStartValues(state_);
+    core::SetStartValues(state_);
     Say(banner_, lost ? NamesLost(*lost) : std::string(kWelcome));
 }
 
@@ -45,9 +46,9 @@ void NewGame::CreateChiefs()
 
 std::optional<std::string> NewGame::TryCreateChiefs()
 {
-    const files::Result<std::vector<std::string>> names = ReadNames(folder_);
-    core::CreateChiefs(state_, chance_, names ? *names : NamesByNumber());
+    const files::Result<std::vector<std::string>> names = core::ReadNames(folder_);
+    core::CreateChiefs(state_, chance_, names ? *names : core::NamesByNumber());
     return names ? std::nullopt : std::optional(names.Error().Message());
 }
 
-}  // namespace core
+}  // namespace month

@@ -1,9 +1,11 @@
-#include "core/month.h"
+#include "core/month_rules.h"
 
+#include "core/actions.h"
 #include "core/budget.h"
 #include "core/numbers.h"
 #include "core/officers.h"
 #include "core/society.h"
+#include "core/thresholds.h"
 
 #include <algorithm>
 
@@ -24,9 +26,7 @@ struct Anger {
 constexpr Anger kAngers[] = {{80, 1}, {100, 2}, {120, 3}, {140, 4}};
 
 constexpr std::int64_t kBusyAbility = 8;
-constexpr std::int64_t kPrisonersRiotAt = 12;
 constexpr std::int64_t kOpenHatred = 51;  // opposition that turns into strength
-constexpr std::size_t kLastMonthlyAction = 23;
 
 void CountDown(u8& months)
 {
@@ -131,8 +131,7 @@ void CloseMonth(GameState& state)
         CountDown(state.AssassinWait[n]);
         CountDown(state.RevolutionWait[n]);
     }
-    UpdatePopularity(state);
-    if (state.Strength[Prisoners] < kPrisonersRiotAt && state.Population[Prisoners] >= 1) {
+    if (state.Strength[Prisoners] < kPrisonersRiseAt && state.Population[Prisoners] >= 1) {
         state.Strength[Prisoners] += 1;
     }
     FleeToGuerrillas(state);
