@@ -17,7 +17,8 @@ namespace platform {
 
 class Painter {
 public:
-    explicit Painter(const files::ProgramFolder& folder) : letters_(folder.Path("fonts")), pictures_(folder) {}
+    explicit Painter(const files::ProgramFolder& folder) : letters_(folder.Path("fonts")), pictures_(folder)
+    {}
 
     SDL_Rect Paint(const ui::Desktop& desktop, SDL_Surface& surface, const Viewport& viewport,
                    const ui::Rect& dirty);
