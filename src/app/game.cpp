@@ -2,6 +2,7 @@
 
 #include "app/spoken_strip.h"
 #include "core/society.h"
+#include "month/banner.h"
 
 #include <utility>
 
@@ -121,7 +122,7 @@ void Game::WireKeys()
         return screens_.frmMain.Loaded() ? SpokenStrip(state_) : std::vector<std::string>();
     };
     narrator_.report = [this](std::string_view message) {
-        core::Say(screens_.frmMonthBanner, message);
+        month::Say(screens_.frmMonthBanner, message);
         screens_.frmStart.Label3.SetText(message);
     };
     desktop_.onKey = [this](ui::Key key) {
