@@ -30,7 +30,7 @@ Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, 
 void Game::Start()
 {
     std::vector<std::string> written = persist::Archive::Files();
-    const std::vector<std::string> hall = persist::HallOfFame::Files();
+    const std::vector<std::string> hall = persist::HallFile::Files();
     written.insert(written.end(), hall.begin(), hall.end());
     written_.Tidy(written);
     opening_.ShowTitle();

@@ -32,13 +32,13 @@ files::Result<HallList> HallFile::Read() const
     return ReadHall(*items, kFile);
 }
 
-bool HallOfFame::Altered() const
+bool HallFile::Altered() const
 {
     const files::Result<std::string> content = files_.ReadWhole(kFile);
     return content && !files::Agrees(files_, kFile, *content);
 }
 
-std::vector<std::string> HallOfFame::Files()
+std::vector<std::string> HallFile::Files()
 {
     return {std::string(kFile), files::SumFile(kFile)};
 }
