@@ -104,7 +104,7 @@ TEST(Scene, ChangesWhollyAndTogether)
     const std::uint32_t welcome = paint();
     EXPECT_EQ(welcome, afresh());
     EXPECT_NE(test::PixelAt(*surface, 10, 300), 0U) << "the wall goes on beside the screen";
-    game.Press(ui::Key::F1);
+    game.Press(ui::Key::Home);
     EXPECT_NE(paint(), welcome) << "a key folds the message";
     game.Screens().frmMonthBanner.Label1.SetFolded(false);
     EXPECT_EQ(paint(), welcome);

@@ -131,7 +131,7 @@ TEST_F(Menu, RefusesTheMonthThatTheTreasuryCannotPay)
         game.Call("EndOfTurn");
         game.Call("EndOfTurn2");
         game.Screens().frmMain.Timer1.SetInterval(0);
-        game.Screens().frmMain.SetEnabled(true);
+        game.game.GetMonth().Close();
         game.Expect({{"MonthsInPower", month}});
     }
     for (int i = 0; i < 3; ++i) {
