@@ -200,7 +200,8 @@ std::optional<std::string> Narrator::Echo()
 void Narrator::Notice(ui::Cause cause)
 {
     std::vector<std::string> lines;
-    for (const ui::Form* form : desktop_.Shown()) {  // the banner first; the desk's edge is read when asked for
+    for (const ui::Form* form :
+         desktop_.Shown()) {  // the banner first; the desk's edge is read when asked for
         if (!form->GetDesign().fixture) {
             NoticeForm(*form, lines);
         }
