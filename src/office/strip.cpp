@@ -110,7 +110,7 @@ void StatusStrip::ShowFavour(const Strip& facts)
 {
     screens::FrmStrip& strip = screens_.frmStrip;
     strip.lblFavour.SetText(facts.favour ? core::Digits(*facts.favour) + "%" : "?");
-    constexpr std::int64_t kWhole = screens::kFavourParts * screens::kFavourPart;
+    constexpr std::int64_t kWhole = std::int64_t{screens::kFavourParts} * screens::kFavourPart;
     std::int64_t pixels = std::clamp<std::int64_t>(facts.favour.value_or(0), 0, 100) * kWhole / 100;
     for (int part = 0; part < screens::kFavourParts; ++part) {
         ui::Rect place = screens::FavourPart(part);
