@@ -347,7 +347,8 @@ constexpr FarewellPage kPages[] = {
     {End::Escaped,
      ByHelicopter,
      "ADIOS!",
-     "President retires abroad\nin excellent health",
+     "President retires abroad\n"
+     "in excellent health",
      "The treasury went with him, for its own safety",
      kBeach,
      {"Alive, and well off", "After {term} President {name} has gone to the United States to study "
