@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 
 #include <array>
+#include <cstddef>
 
 namespace events {
 
@@ -138,7 +139,7 @@ struct BudgetStep {
     core::Action action;
     i32 GameState::*line;
     double percent;
-    core::Action barred;
+    std::size_t barred;
 };
 constexpr BudgetStep kBudgetSteps[] = {
     {core::kCutEducation, &GameState::ExpEducation, -10, core::kRaiseEducation},
@@ -189,8 +190,9 @@ void DisarmTheState(GameState& state)
 {
     state.ExpPolice = ChangedByPercent(state.ExpPolice, -20);
     state.ExpArmy = ChangedByPercent(state.ExpArmy, -20);
-    for (const core::Action barred :
-         {core::kCutPoliceFunds, core::kRaisePoliceFunds, core::kCutUnemployment, core::kRaiseUnemployment}) {
+    constexpr std::size_t kBarred[] = {core::kCutPoliceFunds, core::kRaisePoliceFunds, core::kCutUnemployment,
+                                       core::kRaiseUnemployment};
+    for (const std::size_t barred : kBarred) {
         state.ActionDone[barred] = 1;
     }
 }
