@@ -165,7 +165,22 @@ void Game::WireOffice()
         slip_.Refresh();
         strip_.Refresh();
     };
+    options_.settings = [this] { settings_.Open(); };
+    opening_.settings = [this] { settings_.Open(); };
+    settings_.onChanged = [this](const office::Settings& settings) { CarryOut(settings); };
+    narrator_.onSwitched = [this](bool on) {
+        settings_.Change([on](office::Settings& settings) { settings.narration = on; });
+    };
     hall_.onEntered = [this](int place, const std::string& points) { farewell_.Print(place, points); };
+}
+
+void Game::CarryOut(const office::Settings& settings)
+{
+    constexpr int kWhole = 100;
+    host_.SetVolume(settings.mute ? 0 : settings.volume * kWhole / office::kLoudest);
+    display_.Choose(settings.fullScreen);
+    desktop_.pauses = settings.pauses;
+    narrator_.Switch(settings.narration);
 }
 
 // A link of the chain that is called by its name goes on with those behind it.

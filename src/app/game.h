@@ -33,6 +33,7 @@
 #include "month/new_game.h"
 #include "office/backdrop.h"
 #include "office/farewell.h"
+#include "office/settings_sheet.h"
 #include "office/slip.h"
 #include "office/strip.h"
 #include "shell/army.h"
@@ -78,6 +79,7 @@ public:
     core::Journal& GetJournal() { return journal_; }
     month::Month& GetMonth() { return month_; }
     const files::ProgramFolder& Folder() const { return folder_; }
+    office::SettingsSheet& GetSettings() { return settings_; }
     // Silent until it is switched on and given a voice.
     reading::Narrator& GetNarrator() { return narrator_; }
 
@@ -92,6 +94,7 @@ private:
     void WireShell();
     void WireKeys();
     void WireOffice();
+    void CarryOut(const office::Settings& settings);
     void ListRoutines();
 
     media::Host& host_;
@@ -196,6 +199,7 @@ private:
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
     office::Slip slip_{state_, journal_, screens_, desktop_, format_};
+    office::SettingsSheet settings_{screens_.frmSettings, sound_};
     office::Farewell farewell_{state_, journal_, screens_.frmFarewell, sound_, format_};
 
     std::map<std::string, std::function<void()>, std::less<>> routines_;

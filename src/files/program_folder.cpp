@@ -33,21 +33,31 @@ bool MayWrite(const std::filesystem::path& root)
     return true;
 }
 
-// $XDG_DATA_HOME/quenvale or ~/.local/share/quenvale; empty for a user without a home.
-std::filesystem::path UserDataFolder()
+// The folder that the variable names, or this one in the user's home; empty for a user without a home.
+std::filesystem::path UserFolder(const char* variable, std::string_view inHome)
 {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data != nullptr && *data == '/') {  // the convention: a relative one is not meant
-        return std::filesystem::path(data) / "quenvale";
+    const char* folder = std::getenv(variable);
+    if (folder != nullptr && *folder == '/') {  // the convention: a relative one is not meant
+        return std::filesystem::path(folder) / "quenvale";
     }
     const char* home = std::getenv("HOME");
     if (home != nullptr && *home == '/') {
-        return std::filesystem::path(home) / ".local/share/quenvale";
+        return std::filesystem::path(home) / inHome / "quenvale";
     }
     return {};
 }
 
+std::filesystem::path UserDataFolder()
+{
+    return UserFolder("XDG_DATA_HOME", ".local/share");
+}
+
 }  // namespace
+
+std::filesystem::path UserConfigFolder()
+{
+    return UserFolder("XDG_CONFIG_HOME", ".config");
+}
 
 ProgramFolder ProgramFolder::At(std::filesystem::path root, Place place)
 {

@@ -21,6 +21,9 @@
 
 namespace files {
 
+// Where the user's settings lie: $XDG_CONFIG_HOME/quenvale or ~/.config/quenvale; empty for a user without a home.
+std::filesystem::path UserConfigFolder();
+
 class ProgramFolder {
 public:
     explicit ProgramFolder(std::filesystem::path root) : root_(root), written_(std::move(root)) {}

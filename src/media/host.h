@@ -14,6 +14,8 @@ public:
 
     // Paths are below the program folder and use '/': "sound/click.wav". A new sound cuts the last one.
     virtual void PlayWave(std::string_view file) = 0;
+    // In percent; a host that makes no sound has none to lower.
+    virtual void SetVolume(int /*percent*/) {}
     // Full screen at 800 x 600 x 32 if the display offers exactly that, else scaled.
     virtual void SwitchDisplayMode() = 0;
     virtual void RestoreDisplayMode() = 0;

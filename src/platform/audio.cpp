@@ -21,7 +21,8 @@ constexpr int kRate = 22050;
 constexpr int kBytesASecond = kRate * 2;
 constexpr Uint8 kChannels = 1;
 constexpr int kDucked = SDL_MIX_MAXVOLUME / 4;
-constexpr Uint16 kBuffer = 512;  // samples; 23 ms
+constexpr int kWholeVolume = 100;  // percent
+constexpr Uint16 kBuffer = 512;    // samples; 23 ms
 
 constexpr std::int64_t kStaysOpen = 4000;    // ms after a sound's end
 constexpr std::int64_t kLooksAgain = 60000;  // ms after there was no device
@@ -100,13 +101,28 @@ void Audio::Sound(std::size_t from)
     SDL_ClearQueuedAudio(device_);
     Samples heard(sounds_.size() - from);
     SDL_MixAudioFormat(heard.data(), sounds_.data() + from, kFormat, static_cast<Uint32>(heard.size()),
-                       ducked_ ? kDucked : SDL_MIX_MAXVOLUME);
+                       (ducked_ ? kDucked : SDL_MIX_MAXVOLUME) * volume_ / kWholeVolume);
     SDL_QueueAudio(device_, heard.data(), static_cast<Uint32>(heard.size()));
 }
 
 void Audio::Duck(bool duck)
 {
-    if (std::exchange(ducked_, duck) != duck && Open()) {
+    if (std::exchange(ducked_, duck) != duck) {
+        SoundRest();
+    }
+}
+
+void Audio::SetVolume(int percent)
+{
+    if (std::exchange(volume_, percent) != percent) {
+        SoundRest();
+    }
+}
+
+// What has not yet been heard, anew.
+void Audio::SoundRest()
+{
+    if (Open()) {
         const std::size_t left = SDL_GetQueuedAudioSize(device_);
         Sound(sounds_.size() - std::min(left, sounds_.size()));
     }
@@ -116,7 +132,7 @@ void Audio::Update(std::int64_t now)
 {
     if (!wanted_.empty()) {
         const std::string file = std::exchange(wanted_, {});
-        if (!OpenDevice(now)) {
+        if (volume_ == 0 || !OpenDevice(now)) {
             return;
         }
         sounds_ = ReadWave(folder_.Path(file));

@@ -30,6 +30,8 @@ public:
     void Play(std::string_view file) { wanted_ = file; }
     // Milliseconds of any steady clock.
     void Update(std::int64_t now);
+    // In percent; at none nothing is played, and no device opened for it.
+    void SetVolume(int percent);
     // Lower while somebody speaks.
     void Duck(bool duck);
     std::optional<std::int64_t> NextDue() const;
@@ -39,10 +41,12 @@ private:
     bool OpenDevice(std::int64_t now);
     void CloseDevice();
     void Sound(std::size_t from);
+    void SoundRest();
 
     files::ProgramFolder folder_;
     std::string wanted_;
     std::vector<Uint8> sounds_;  // the last one, as the device takes it
+    int volume_ = 100;           // percent
     bool ducked_ = false;
     SDL_AudioDeviceID device_ = 0;  // 0: closed
     std::int64_t quietAt_ = 0;      // when the device may be closed

@@ -102,7 +102,8 @@ void RunInWindow(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& hos
     XSetErrorHandler(GoOn);  // before SDL, which hands on to this one and comes back to it at its end
     const Video video;
     const Signals signals(PushQuit);
-    Window window(guard);
+    Window window(guard, host.place);
+    window.onToggled = host.onFullScreen;
     QuitWhenDestroyed();
     Painter painter(folder);
     Audio audio(folder);
@@ -113,6 +114,7 @@ void RunInWindow(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& hos
     SetIcon(window, folder);  // can wait until the player sees something
     narration.OfferWhenWanted();
     loop.Run();
+    host.place = window.Place();
     host.Attach(nullptr, nullptr, folder);
 }
 

@@ -11,12 +11,21 @@ void SdlHost::Attach(Window* window, Audio* audio, const files::ProgramFolder& f
     window_ = window;
     audio_ = audio;
     folder_ = folder;
+    SetVolume(volume_);
 }
 
 void SdlHost::PlayWave(std::string_view file)
 {
     if (audio_ != nullptr) {
         audio_->Play(file);
+    }
+}
+
+void SdlHost::SetVolume(int percent)
+{
+    volume_ = percent;
+    if (audio_ != nullptr) {
+        audio_->SetVolume(percent);
     }
 }
 

@@ -7,6 +7,9 @@
 
 #include "files/program_folder.h"
 #include "media/host.h"
+#include "ui/toolkit/geometry.h"
+
+#include <functional>
 
 namespace platform {
 
@@ -16,10 +19,16 @@ class Window;
 class SdlHost : public media::Host {
 public:
     void PlayWave(std::string_view file) override;
+    void SetVolume(int percent) override;
     void SwitchDisplayMode() override;
     void RestoreDisplayMode() override;
     void OpenDocument(std::string_view file, std::string_view chapter) override;
     void EndProgram() override { ended_ = true; }
+
+    // Where the window was left the last time, told before Run; where it is left now, after it.
+    ui::Rect place{};  // pixels of the desktop; no width: unknown
+    // The player has pressed the window's own key for it.
+    std::function<void(bool)> onFullScreen;
 
     bool Ended() const { return ended_; }
     // Null for both when the window is gone.
@@ -29,6 +38,7 @@ private:
     Window* window_ = nullptr;
     Audio* audio_ = nullptr;
     files::ProgramFolder folder_{{}};
+    int volume_ = 100;  // percent
     bool ended_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include <SDL2/SDL_hints.h>
 #include <SDL2/SDL_timer.h>
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -19,15 +20,34 @@ constexpr int kSmallestHeight = 240;
 // ms: window managers take the focus away and give it back while the mode changes; nobody reads so fast.
 constexpr std::uint64_t kLookedAway = 1000;
 
+// On the display that the wanted place is on, or the first one.
+SDL_Rect WithinDesktop(const ui::Rect& wanted)
+{
+    SDL_Rect place{wanted.left, wanted.top, wanted.width, wanted.height};
+    SDL_Rect room{};
+    if (SDL_GetDisplayUsableBounds(std::max(SDL_GetRectDisplayIndex(&place), 0), &room) == 0) {
+        place.w = std::clamp(place.w, std::min(kSmallestWidth, room.w), room.w);
+        place.h = std::clamp(place.h, std::min(kSmallestHeight, room.h), room.h);
+        place.x = std::clamp(place.x, room.x, room.x + room.w - place.w);
+        place.y = std::clamp(place.y, room.y, room.y + room.h - place.h);
+    }
+    return place;
+}
+
 }  // namespace
 
-Window::Window(Guard& guard) : guard_(guard)
+Window::Window(Guard& guard, const ui::Rect& place) : guard_(guard), place_(place)
 {
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     window_.reset(SDL_CreateWindow("Quenvale", SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                    ui::kSpaceWidth, ui::kSpaceHeight, SDL_WINDOW_RESIZABLE));
     if (!window_) {
         throw std::runtime_error(SDL_GetError());
+    }
+    if (place_.width > 0) {
+        const SDL_Rect within = WithinDesktop(place_);
+        SDL_SetWindowSize(window_.get(), within.w, within.h);
+        SDL_SetWindowPosition(window_.get(), within.x, within.y);
     }
     SDL_SetWindowMinimumSize(window_.get(), kSmallestWidth, kSmallestHeight);
 }
@@ -77,6 +97,7 @@ void Window::Present(const SDL_Rect& changed)
 void Window::EnterFullScreen()
 {
     steppedAside_ = false;
+    place_ = Place();
     platform::EnterFullScreen(*window_, guard_, before_);
     Renew();
 }
@@ -112,7 +133,23 @@ void Window::FocusGained()
 
 void Window::ToggleFullScreen()
 {
-    IsFullScreen(*window_) ? LeaveFullScreen() : EnterFullScreen();
+    const bool enters = !IsFullScreen(*window_);
+    enters ? EnterFullScreen() : LeaveFullScreen();
+    if (onToggled) {
+        onToggled(enters);
+    }
+}
+
+ui::Rect Window::Place() const
+{
+    constexpr Uint32 kElsewhere = SDL_WINDOW_FULLSCREEN | SDL_WINDOW_MAXIMIZED | SDL_WINDOW_MINIMIZED;
+    if ((SDL_GetWindowFlags(window_.get()) & kElsewhere) != 0) {
+        return place_;
+    }
+    ui::Rect place{};
+    SDL_GetWindowPosition(window_.get(), &place.left, &place.top);
+    SDL_GetWindowSize(window_.get(), &place.width, &place.height);
+    return place;
 }
 
 }  // namespace platform

@@ -18,6 +18,7 @@
 #include <SDL2/SDL_video.h>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,7 +27,9 @@ namespace platform {
 class Window {
 public:
     // SDL's video must be started. Throws std::runtime_error with SDL's reason.
-    explicit Window(Guard& guard);
+    // The place is in pixels of the desktop; one that the desktop no longer has is moved into it, one without a width is
+    // no place.
+    explicit Window(Guard& guard, const ui::Rect& place = {});
     ~Window();
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
@@ -42,6 +45,9 @@ public:
     void EnterFullScreen();
     void LeaveFullScreen();
     void ToggleFullScreen();
+    std::function<void(bool)> onToggled;  // full screen, by the player's key
+    // Of the window when it is neither full screen nor maximised, now or at last; without a width if never.
+    ui::Rect Place() const;
     // Out of full screen for another program, and into it again when the player comes back from there.
     void StepAside();
     void FocusLost();
@@ -58,6 +64,7 @@ private:
     };
 
     Guard& guard_;
+    ui::Rect place_;
     WindowPlace before_;
     std::unique_ptr<SDL_Window, WindowDeleter> window_;
     // Where the window's own surface has another format than we paint in.

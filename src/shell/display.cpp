@@ -1,5 +1,7 @@
 #include "shell/display.h"
 
+#include <utility>
+
 namespace shell {
 
 void Display::SwitchDisplayMode()
@@ -7,8 +9,18 @@ void Display::SwitchDisplayMode()
     if (state_.DisplayModeSet != 0) {
         return;
     }
-    host_.SwitchDisplayMode();
+    if (fullScreen_) {
+        host_.SwitchDisplayMode();
+    }
     state_.DisplayModeSet = 1;
+}
+
+void Display::Choose(bool fullScreen)
+{
+    if (std::exchange(fullScreen_, fullScreen) == fullScreen || state_.DisplayModeSet == 0) {
+        return;
+    }
+    fullScreen ? host_.SwitchDisplayMode() : host_.RestoreDisplayMode();
 }
 
 void Display::RestoreDisplayMode()

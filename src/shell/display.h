@@ -12,10 +12,13 @@ public:
 
     void SwitchDisplayMode();
     void RestoreDisplayMode();
+    // What the player wants from now on. Before the mode is switched for the first time it is only remembered.
+    void Choose(bool fullScreen);
 
 private:
     core::GameState& state_;
     media::Host& host_;
+    bool fullScreen_ = true;
 };
 
 }  // namespace shell

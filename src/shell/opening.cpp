@@ -44,6 +44,10 @@ Opening::Opening(core::GameState& state, Screens screens, media::Sound& sound, m
     };
     screens.frmStart.Command2.onClick = [this] { StepLevel(); };
     screens.frmStart.Command3.onClick = [this] { Quit(); };
+    screens.frmStart.cmdSettings.onClick = [this] {
+        sound_.SoundClick();
+        settings();
+    };
     screens.frmStart.Command5.onClick = [this, &manual] {
         sound_.SoundClick();
         manual.Open();

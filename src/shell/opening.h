@@ -32,6 +32,8 @@ public:
 
     std::function<void()> loadGame;  // "Load Game": straight to the archive
 
+    std::function<void()> settings;  // "Settings": the player's own sheet
+
     void ShowTitle();
     // The start screen, its level button naming the level that holds.
     void ShowStart();

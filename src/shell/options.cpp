@@ -21,6 +21,15 @@ Options::Options(core::GameState& state, Screens screens, media::Sound& sound, m
     screens.frmOptions.onLoad = [this] { NameHistory(); };
     screens.frmOptions.Label5.OnClick([this](int index) { Label5_Click(index); });
     screens.frmOptions.Label5.OnHover([this](int index) { Label5_MouseMove(index); });
+    screens.frmOptions.lblSettings.onClick = [this] {
+        sound_.SoundClick();
+        screens_.frmOptions.Hide();
+        settings();
+    };
+    screens.frmOptions.lblSettings.onHover = [this] {
+        Label5_MouseMove(screens::kOptionItems);
+        LightSettings(true);
+    };
 }
 
 void Options::Open()
@@ -36,8 +45,15 @@ void Options::NameHistory()
     }
 }
 
+void Options::LightSettings(bool lit)
+{
+    screens_.frmOptions.lblSettings.SetBack(lit ? look::kBlack : look::kYellow);
+    screens_.frmOptions.lblSettings.SetFore(lit ? look::kWhite : look::kBlack);
+}
+
 void Options::Label5_MouseMove(int index)
 {
+    LightSettings(false);
     for (int i = 0; i < screens::kOptionItems; ++i) {
         screens_.frmOptions.Label5[i].SetBack(i == index ? look::kBlack : look::kYellow);
         screens_.frmOptions.Label5[i].SetFore(i == index ? look::kWhite : look::kBlack);

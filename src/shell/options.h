@@ -13,6 +13,8 @@
 #include "ui/screens/frm_history.h"
 #include "ui/screens/frm_options.h"
 
+#include <functional>
+
 namespace shell {
 
 class Options {
@@ -26,12 +28,15 @@ public:
             const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
             HallScreen& hall);
 
+    std::function<void()> settings;  // "Settings": the player's own sheet
+
     void Open();
     void Label5_Click(int index);
     void Label5_MouseMove(int index);
 
 private:
     void NameHistory();
+    void LightSettings(bool lit);
     void ShowHistory();
 
     core::GameState& state_;

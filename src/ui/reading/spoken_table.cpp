@@ -52,6 +52,15 @@ constexpr Spoken kTable[] = {
     {"frmSlip",        "A slip from the secretary", "What the month has changed.", kWhole},
     {"frmFarewell",    "The last page of El Faro", "Press Return to put it away.", kWhole},
 
+    {"frmSettings",    "The settings", "A press of a value goes on to the next one."},
+    {"frmSettings.cmdLess",     "Quieter"},
+    {"frmSettings.cmdMore",     "Louder"},
+    {"frmSettings.lblVolume",   "{} of ten"},
+    {"frmSettings.cmdValue(0)", "Silence: {}, press for the next one"},
+    {"frmSettings.cmdValue(1)", "Screen: {}, press for the next one"},
+    {"frmSettings.cmdValue(2)", "Pauses: {}, press for the next one"},
+    {"frmSettings.cmdValue(3)", "Narration: {}, press for the next one"},
+
     // The menu and the keys. -----------------------------------------------------------------------------------------
     {"frmMain.Label5(0)", "Presidential actions, key 1"},
     {"frmMain.Label5(1)", "Taxes and budget, key 2"},

@@ -24,7 +24,7 @@ enum OptionItem {
     kOptionItems,
 };
 
-inline constexpr ui::Rect kOptionsSheet{560, 58, 228, 368};
+inline constexpr ui::Rect kOptionsSheet{560, 58, 228, 412};
 inline constexpr ui::Rect OptionPlace(int place)
 {
     return {568, 66 + 44 * place, 212, 41};
@@ -53,7 +53,9 @@ struct FrmOptions : ui::Form {
     {}
 
     ui::ControlArray<ui::Label> Label5{*this, "Label5", kOptionRows};
-    ui::Label Label1{*this, "Label1", {562, 440, 224, 146}, "", look::kAside};
+    ui::Label lblSettings{*this, "lblSettings", OptionPlace(8), "Settings", look::kYellowKey,
+        {.tabStop = true, .back = look::kYellow}};
+    ui::Label Label1{*this, "Label1", {562, 478, 224, 110}, "", look::kAside};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.
     ui::Shape OLE1{*this, "OLE1", {560, 58, 1, 1}, "", look::kShape, {.visible = false}};
 };

@@ -32,6 +32,7 @@ struct FrmStart : ui::Form {
     ui::CommandButton Command4{*this, "Command4", {568, 377, 180, 38}, "Load Game", look::kButton};
     ui::CommandButton Command5{*this, "Command5", {568, 425, 180, 38}, "How To Play", look::kButton};
     ui::CommandButton Command3{*this, "Command3", {568, 473, 180, 38}, "Quit Game", look::kDangerButton};
+    ui::CommandButton cmdSettings{*this, "cmdSettings", {24, 548, 150, 36}, "Settings", look::kButton};
     // Where the manual lies, or that it does not.
     ui::Label Label3{*this, "Label3", {400, 544, 388, 52}, "", look::kAside};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.

@@ -31,6 +31,7 @@
 #include "ui/screens/frm_random2.h"
 #include "ui/screens/frm_rev.h"
 #include "ui/screens/frm_save.h"
+#include "ui/screens/frm_settings.h"
 #include "ui/screens/frm_show.h"
 #include "ui/screens/frm_show2.h"
 #include "ui/screens/frm_slip.h"
@@ -101,6 +102,7 @@ public:
     FrmStrip frmStrip{stage_};
     FrmSlip frmSlip{stage_};
     FrmFarewell frmFarewell{stage_};
+    FrmSettings frmSettings{stage_};
 };
 
 }  // namespace screens

@@ -61,10 +61,10 @@ TEST_F(Narration, AnswersEveryKey)
         Key key;
         const char* said;
     } steps[] = {
-        {Key::Return, "5 things can be done.\nStart Game, button. 1 of 5.\n"},
-        {Key::Tab, "Level Normal, press for the next one, button. 2 of 5.\n"},
+        {Key::Return, "6 things can be done.\nStart Game, button. 1 of 6.\n"},
+        {Key::Tab, "Level Normal, press for the next one, button. 2 of 6.\n"},
         {Key::Return, "Level Hard, press for the next one, button.\n"},
-        {Key::Up, "Start Game, button. 1 of 5.\n"},
+        {Key::Up, "Start Game, button. 1 of 6.\n"},
         {Key::F5, "No country yet.\n"},
         {Key::Return, "Your name: empty, edit.\n"},
         {Key::Digit4, "4\n"},
