@@ -11,6 +11,11 @@
 #
 # CONTRIBUTING.md says why each is here, tools/setup/packages which Debian package brings it.
 
+if(EMSCRIPTEN)
+    include(WebDependencies)
+    return()
+endif()
+
 find_package(SDL2 2.26 CONFIG REQUIRED)
 find_package(SDL2_ttf CONFIG REQUIRED)
 find_package(PNG REQUIRED)

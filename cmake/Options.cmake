@@ -22,7 +22,11 @@ add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}
 # What the system offers against a fault that somebody turns into a weapon; tools/lint/binary looks whether it
 # is in the program. The sanitizers see more and do not go together with it.
 set(CMAKE_SKIP_BUILD_RPATH ON)
-if(NOT QUENVALE_SANITIZE AND NOT QUENVALE_COVERAGE)
+if(EMSCRIPTEN)
+    # The browser's sandbox stands in for all of it. Exceptions and setjmp are the engine's own.
+    add_compile_options(-fwasm-exceptions -sSUPPORT_LONGJMP=wasm)
+    add_link_options(-fwasm-exceptions -sSUPPORT_LONGJMP=wasm)
+elseif(NOT QUENVALE_SANITIZE AND NOT QUENVALE_COVERAGE)
     add_compile_options(-fPIE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
     if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
         add_compile_options(-fcf-protection=full)
@@ -49,7 +53,7 @@ endif()
 # is told to, and the header must not carry the time at which it was made.
 find_program(CCACHE ccache)
 mark_as_advanced(CCACHE)
-if(CCACHE)
+if(CCACHE AND NOT EMSCRIPTEN)
     set(CMAKE_CXX_COMPILER_LAUNCHER
         "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
         "${CCACHE}")

@@ -1,7 +1,7 @@
 // Quenvale, the program with the window. The whole game is in class Game; SDL is in platform.
 #include "app/game.h"
 #include "office/settings_file.h"
-#include "platform/program.h"
+#include "platform/desktop/program.h"
 
 #include <chrono>
 #include <clocale>

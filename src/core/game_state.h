@@ -75,7 +75,7 @@ inline constexpr std::size_t kOfficers = 11;  // row 0 is the chief in office, 1
 using OfficerRow = std::array<Cell, kOfficerColumns>;
 using OfficerTable = std::array<OfficerRow, kOfficers>;
 
-constexpr OfficerTable EmptyOfficers()
+inline OfficerTable EmptyOfficers()
 {
     OfficerTable table;
     for (OfficerRow& row : table) {

@@ -1,9 +1,10 @@
 #include "core/numbers.h"
 
+#include "files/decimal.h"
+
 #include <langinfo.h>
 
 #include <algorithm>
-#include <charconv>
 #include <clocale>
 #include <cmath>
 #include <limits>
@@ -162,7 +163,7 @@ std::optional<double> NumberFormat::ParseAmount(std::string_view text) const
     }
     const std::string plain = "0" + *whole + "." + fraction + "0";
     double value = 0;
-    const auto result = std::from_chars(plain.data(), plain.data() + plain.size(), value);
+    const auto result = files::ReadDecimal(plain.data(), plain.data() + plain.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
         value = std::numeric_limits<double>::infinity();
     }

@@ -1,5 +1,7 @@
 #include "files/system_calls.h"
 
+#include "files/rename_if_new.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -68,8 +70,7 @@ int SystemCalls::Rename(const char* from, const char* to)
 // Some file systems cannot do it in one step. There the folder's lock keeps the other games out in between.
 int SystemCalls::RenameToNew(const char* from, const char* to)
 {
-    const int result =
-        Uninterrupted([&] { return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE); });
+    const int result = Uninterrupted([&] { return RenameIfNew(from, to); });
     if (result == 0 || (errno != EINVAL && errno != ENOSYS)) {
         return result;
     }

@@ -1,5 +1,7 @@
 #include "files/text_records.h"
 
+#include "files/decimal.h"
+
 #include <utf8.h>
 
 #include <algorithm>
@@ -119,7 +121,7 @@ template <class T> std::optional<T> Finite(const Item& item)
     const std::string_view digits = DigitsOf(item);
     T value = 0;
     const char* end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, value);
+    const auto [stop, error] = ReadDecimal(digits.data(), end, value);
     if (error != std::errc{} || stop != end || !std::isfinite(value)) {
         return std::nullopt;
     }
@@ -190,8 +192,7 @@ std::string Number(float value)
     constexpr int kDigits = 7;
     char digits[32];
     const auto [end, error] =
-        std::to_chars(std::begin(digits), std::end(digits), std::isfinite(value) ? value : 0.0F,
-                      std::chars_format::general, kDigits);
+        WriteDecimal(std::begin(digits), std::end(digits), std::isfinite(value) ? value : 0.0F, kDigits);
     return {digits, end};
 }
 

@@ -136,11 +136,11 @@ std::string FromClipboard()
 
 }  // namespace
 
-Input::Input(ui::Desktop& desktop, ui::Hands& hands, Painter& painter, Window& window)
+Input::Input(ui::Desktop& desktop, ui::Hands& hands, Painter& painter, Frame& frame)
     : desktop_(desktop)
     , hands_(hands)
     , painter_(painter)
-    , window_(window)
+    , frame_(frame)
     , caretAt_([this](const ui::TextBox& box, int x) { return painter_.CaretAt(box, x); })
 {
     desktop_.getClipboard = FromClipboard;
@@ -154,7 +154,7 @@ void Input::HandleKey(const SDL_KeyboardEvent& event)
     const bool altReturn = pressed.sym == SDLK_RETURN && Holds(pressed, KMOD_ALT);
     if (pressed.sym == SDLK_F11 || altReturn) {
         if (event.repeat == 0) {
-            window_.ToggleFullScreen();
+            frame_.ToggleFullScreen();
         }
         return;
     }
@@ -174,7 +174,7 @@ void Input::HandleKey(const SDL_KeyboardEvent& event)
 
 void Input::HandleMotion(int x, int y)
 {
-    const Viewport view = window_.View();
+    const Viewport view = frame_.View();
     if (view.Contains(x, y) || pressed_) {  // a selection may be drawn out beyond the picture
         pointer_ = view.ToPicture(x, y);
         desktop_.PointerMove(*pointer_, caretAt_);
@@ -187,7 +187,7 @@ void Input::HandleMotion(int x, int y)
 // Presses in the bars beside the picture are dropped; one that began in the picture ends anywhere.
 void Input::HandleButton(const SDL_MouseButtonEvent& event)
 {
-    const Viewport view = window_.View();
+    const Viewport view = frame_.View();
     const ui::Point at = view.ToPicture(event.x, event.y);
     if (event.button != SDL_BUTTON_LEFT) {
         return;
@@ -244,13 +244,13 @@ void Input::HandleWindow(const SDL_WindowEvent& event)
         break;
     case SDL_WINDOWEVENT_EXPOSED:
     case SDL_WINDOWEVENT_SIZE_CHANGED:
-        window_.Renew();
+        frame_.Renew();
         break;
     case SDL_WINDOWEVENT_FOCUS_LOST:
-        window_.FocusLost();
+        frame_.FocusLost();
         break;
     case SDL_WINDOWEVENT_FOCUS_GAINED:
-        window_.FocusGained();
+        frame_.FocusGained();
         break;
     default:
         break;
@@ -287,7 +287,7 @@ void Input::FollowFocus()
     }
     const ui::Rect caret = typing ? painter_.CaretPlace(*box) : ui::Rect{};
     if (typing && caret != caret_) {
-        const SDL_Rect place = window_.View().Cover(caret);
+        const SDL_Rect place = frame_.View().Cover(caret);
         SDL_SetTextInputRect(&place);
     }
     caret_ = caret;

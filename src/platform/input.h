@@ -1,8 +1,8 @@
 // Turns what SDL reports into what the desktop understands: pointer, keys, typed and composed text.
 #pragma once
 
+#include "platform/frame.h"
 #include "platform/painter.h"
-#include "platform/window.h"
 #include "ui/toolkit/desktop.h"
 #include "ui/toolkit/hands.h"
 
@@ -17,7 +17,7 @@ namespace platform {
 
 class Input {
 public:
-    Input(ui::Desktop& desktop, ui::Hands& hands, Painter& painter, Window& window);
+    Input(ui::Desktop& desktop, ui::Hands& hands, Painter& painter, Frame& frame);
 
     void Handle(const SDL_Event& event);
     // What goes with the focus and the pointer: input methods run only while a text box has the focus, and show
@@ -35,7 +35,7 @@ private:
     ui::Desktop& desktop_;
     ui::Hands& hands_;
     Painter& painter_;
-    Window& window_;
+    Frame& frame_;
     const ui::Desktop::CaretAt caretAt_;
     bool typing_ = false;
     struct CursorDeleter {

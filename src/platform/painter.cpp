@@ -247,6 +247,12 @@ void Painter::DropUnseenPictures(const ui::Desktop& desktop)
     });
 }
 
+void Painter::PicturesCame()
+{
+    pictures_.Clear();
+    backdrop_ = {};
+}
+
 bool Painter::Fits(const ui::Control& control)
 {
     return TextFits(letters_, control);

@@ -30,6 +30,13 @@ public:
     }
     ui::Rect CaretPlace(const ui::TextBox& box) { return boxes_.CaretPlace(letters_, box, viewport_.scale); }
 
+    // Where pictures come over a wire: who fetches them, and that some have come.
+    void FetchPictures(std::function<bool(const std::filesystem::path&)> fetch)
+    {
+        pictures_.onMissing = std::move(fetch);
+    }
+    void PicturesCame();
+
     // Whether the style has a size at which the control's text fits its place. For tests of screens.
     bool Fits(const ui::Control& control);
 

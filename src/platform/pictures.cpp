@@ -1,5 +1,6 @@
 #include "platform/pictures.h"
 
+#include "files/whole_file.h"
 #include "platform/scale_picture.h"
 
 #include <SDL2/SDL_error.h>
@@ -41,6 +42,11 @@ PictureSurface Scaled(const SDL_Surface& picture, int width, int height)
 
 }  // namespace
 
+bool Pictures::Awaits(const std::filesystem::path& file) const
+{
+    return onMissing && !files::IsRegularFile(file) && onMissing(file);
+}
+
 // A missing or broken file of twice the size is no fault that the player could see.
 PictureSurface Pictures::Read(const std::string& file, int width)
 {
@@ -51,6 +57,7 @@ PictureSurface Pictures::Read(const std::string& file, int width)
     }
     if (width > kMostEnlarged * size->width) {
         const std::filesystem::path sharp = folder_.Path(DoubleOf(file).string());
+        Awaits(sharp);
         if (PictureSurface picture = ReadPictureSize(sharp) ? ReadPicture(sharp) : nullptr) {
             return picture;
         }
@@ -70,7 +77,10 @@ PictureSurface Pictures::Load(std::string_view file, int width, int height)
     const std::string name(file);
     PictureSurface picture = Read(name, width);
     if (!picture) {
-        Tell(name, SDL_GetError());
+        const std::string reason = SDL_GetError();
+        if (!Awaits(folder_.Path(name))) {
+            Tell(name, reason);
+        }
         return nullptr;
     }
     const bool fits = picture->w == width && picture->h == height;

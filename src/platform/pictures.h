@@ -34,10 +34,16 @@ public:
     PictureSurface Load(std::string_view file, int width, int height);
     void KeepOnly(const std::function<bool(const std::string& file)>& isShown);
     void Clear() { kept_.clear(); }
+
+    // Asked for a file that is not there; true: it is on its way, so that nothing is told and nothing kept of it.
+    // Whoever says so calls Clear when it has come.
+    std::function<bool(const std::filesystem::path& file)> onMissing;
+
     std::size_t Kept() const { return kept_.size(); }
 
 private:
     PictureSurface Read(const std::string& file, int width);
+    bool Awaits(const std::filesystem::path& file) const;
     void Tell(const std::string& file, const std::string& reason);
 
     files::ProgramFolder folder_;

@@ -1,7 +1,7 @@
 // Quenvale as src/app/main.cpp starts it, but for its dice: they fall by the seed in the one argument, so that the
 // console can play the same game beside the window.
 #include "app/game.h"
-#include "platform/program.h"
+#include "platform/desktop/program.h"
 
 #include <clocale>
 #include <string>

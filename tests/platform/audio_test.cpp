@@ -1,4 +1,4 @@
-#include "platform/audio.h"
+#include "platform/desktop/audio.h"
 
 #include "support/temporary_folder.h"
 

@@ -1,8 +1,8 @@
 // Switches the X server's mode under a guard's eyes and then goes the way its argument says:
 //     kill, segv, exit: the guard must put the mode back;     forget: it must leave it alone
 //     late: the guard answers a first question when nobody waits any more; it must still put the mode back
-#include "platform/crtc_modes.h"
-#include "platform/guard.h"
+#include "platform/desktop/crtc_modes.h"
+#include "platform/desktop/guard.h"
 
 #include <unistd.h>
 

@@ -1,5 +1,5 @@
 // The few declarations of libspeechd that the game takes, against the real ones.
-#include "platform/speech_library.h"
+#include "platform/desktop/speech_library.h"
 
 #include <gtest/gtest.h>
 #include <speech-dispatcher/libspeechd.h>

@@ -1,10 +1,10 @@
-#include "platform/event_loop.h"
-#include "platform/gamepad.h"
-#include "platform/guard.h"
+#include "platform/desktop/event_loop.h"
+#include "platform/desktop/gamepad.h"
+#include "platform/desktop/guard.h"
+#include "platform/desktop/signals.h"
+#include "platform/desktop/viewer.h"
+#include "platform/desktop/window.h"
 #include "platform/input.h"
-#include "platform/signals.h"
-#include "platform/viewer.h"
-#include "platform/window.h"
 
 #include "platform/sheet.h"
 

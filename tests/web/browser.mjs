@@ -1,0 +1,103 @@
+// A browser with the game's page in it, and a player's hands for both of its halves.
+import puppeteer from "puppeteer-core";
+
+export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
+
+export async function launch() {
+  return puppeteer.launch({executablePath: "/usr/bin/chromium", headless: true,
+    args: ["--no-sandbox", "--autoplay-policy=user-gesture-required"]});
+}
+
+export class Page {
+  static async open(browser, url, {width = 1000, height = 800, ratio = 1} = {}) {
+    const page = new Page();
+    page.tab = await browser.newPage();
+    page.troubles = [];
+    page.tab.on("pageerror", (error) => page.troubles.push(error.message));
+    page.tab.on("console", (line) => { if (line.type() === "error") page.troubles.push(line.text()); });
+    page.requests = [];
+    page.tab.on("request", (request) => page.requests.push(request.url()));
+    await page.tab.setViewport({width, height, deviceScaleFactor: ratio});
+    await page.load(url);
+    return page;
+  }
+
+  async load(url) {
+    await this.tab.goto(url);
+    await this.started();
+  }
+
+  async reload() {
+    await this.tab.reload();
+    await this.started();
+  }
+
+  async started() {
+    await this.tab.waitForFunction(() => performance.getEntriesByName("title").length > 0, {timeout: 20000});
+  }
+
+  // A press at a place of the 800 x 600 picture.
+  async click(x, y) {
+    const place = await this.tab.evaluate((x, y) => {
+      const box = document.getElementById("canvas").getBoundingClientRect();
+      const scale = Math.min(box.width / 800, box.height / 600);
+      return [box.left + (box.width - 800 * scale) / 2 + x * scale, box.top + (box.height - 600 * scale) / 2 + y * scale];
+    }, x, y);
+    await this.tab.mouse.click(...place);
+    await this.settle();
+  }
+
+  async key(name) {
+    await this.tab.keyboard.press(name);
+    await this.settle();
+  }
+
+  async type(text) {
+    await this.tab.keyboard.type(text);
+    await this.settle();
+  }
+
+  // What comes in is handled within a step of the page's own.
+  async settle() {
+    await sleep(60);
+  }
+
+  // The screens of the twin, the front one first: [{title, text, buttons}]; those that answer.
+  async screens() {
+    return this.tab.evaluate(() => [...document.querySelectorAll("#twin > section")].filter((part) => !part.inert).map((part) => ({
+      title: part.getAttribute("aria-label"),
+      text: part.textContent,
+      buttons: [...part.querySelectorAll("button:enabled")].map((button) => button.textContent),
+    })));
+  }
+
+  async says(text) {
+    return (await this.tab.$eval("#twin", (twin) => twin.textContent)).includes(text);
+  }
+
+  async waitFor(text, timeout = 8000) {
+    await this.tab.waitForFunction((text) => document.getElementById("twin").textContent.includes(text), {timeout}, text);
+  }
+
+  // Presses a button of the twin whose words begin so.
+  async press(words) {
+    const found = await this.tab.evaluate((words) => {
+      const button = [...document.querySelectorAll("#twin > section")].filter((part) => !part.inert)
+        .flatMap((part) => [...part.querySelectorAll("button:enabled")])
+        .find((button) => button.textContent.startsWith(words));
+      if (button) button.click();
+      return Boolean(button);
+    }, words);
+    if (!found) throw new Error(`no button "${words}" in ${JSON.stringify(await this.screens(), null, 1)}`);
+    await this.settle();
+  }
+
+  async fill(text) {
+    await this.tab.evaluate((text) => {
+      const field = document.querySelector("#twin > section:not([inert]) input");
+      field.value = text;
+      field.dispatchEvent(new Event("change"));
+    }, text);
+    await this.settle();
+  }
+}

@@ -1,0 +1,186 @@
+// The page in a real browser: node check.mjs ADDRESS CONSOLE-PROGRAM
+//
+// The game is played by its picture and by its words; what it keeps is looked for after a reload; its pixels are held
+// against those of the console, which the desktop's painter makes.
+import assert from "node:assert/strict";
+import {mkdtempSync, readFileSync} from "node:fs";
+import {createRequire} from "node:module";
+import {tmpdir} from "node:os";
+import {join} from "node:path";
+import {test} from "node:test";
+import {Page, launch, sleep} from "./browser.mjs";
+import {Console} from "./console.mjs";
+
+const [address, program] = process.argv.slice(2);
+const axe = readFileSync(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
+
+// Each test has a browser of its own, so that no archive is left from another.
+const inBrowser = (name, run) => test(name, {timeout: 180000}, async () => {
+  const browser = await launch();
+  try { await run(browser); } finally { await browser.close(); }
+});
+
+const swearIn = async (page, name) => {
+  await page.click(400, 300);
+  await page.press("Start Game");
+  await page.fill(name);
+  await page.press("OK");
+};
+const welcomed = async (page) => page.waitFor("Next month");
+
+// Answers whatever stands in the way until the game has ended; months are played by the twin's words alone.
+const playToTheHall = async (page) => {
+  // What a president says who wants it over with.
+  const wishes = ["OK", "Oh!", "Never!", "No", "Close", "Go on", "Next month"];
+  for (let step = 0; step < 1500; ++step) {
+    const screens = await page.screens();
+    if (screens.some((screen) => screen.title.includes("hall of fame"))) return step;
+    const buttons = screens.flatMap((screen) => screen.buttons);
+    const wish = wishes.find((words) => buttons.some((button) => button.startsWith(words)));
+    if (wish) await page.press(wish);
+    else if (buttons.length > 0 && !buttons[0].startsWith("Presidential")) await page.press(buttons[0]);
+    else await page.key("Space");
+    await sleep(20);
+  }
+  throw new Error("no end after 1500 steps: " + JSON.stringify(await page.screens(), null, 1));
+};
+
+inBrowser("a game from the title to the hall, by words alone", async (browser) => {
+  const page = await Page.open(browser, address);
+  await swearIn(page, "Ada");
+  await welcomed(page);
+  await playToTheHall(page);
+  assert.deepEqual(page.troubles, []);
+});
+
+inBrowser("a month by the picture alone, and the menu's keys", async (browser) => {
+  const page = await Page.open(browser, address);
+  await page.click(400, 300);
+  await page.click(658, 300);
+  await page.type("Åsa Ñandú");
+  await page.key("Enter");
+  await welcomed(page);
+  assert(await page.says("Month 1"));
+  await page.key("2");
+  assert(await page.says("Taxes and budget"));
+  await page.key("Escape");
+  await sleep(3200);
+  await page.key("5");
+  await page.waitFor("Month 2");
+  assert.deepEqual(page.troubles, []);
+});
+
+inBrowser("what was saved is there after a reload", async (browser) => {
+  const page = await Page.open(browser, address);
+  await swearIn(page, "Ada");
+  await welcomed(page);
+  await page.press("Options");
+  await page.press("Save Game");
+  await page.press("Game Slot 2");
+  await page.press("Save");
+  await sleep(500);
+  await page.reload();
+  await page.click(400, 300);
+  await page.press("Load Game");
+  const slots = (await page.screens())[0];
+  assert(slots.text.includes("Game Slot 2"), slots.text);
+  await page.press("Game Slot 2");
+  await page.press("Load");
+  await welcomed(page);
+  assert(await page.says("Month 1"));
+});
+
+inBrowser("a second tab plays, and is told that it keeps nothing", async (browser) => {
+  const first = await Page.open(browser, address);
+  const second = await Page.open(browser, address);
+  assert.match(await second.tab.$eval("#notice", (notice) => notice.textContent), /Another tab has the archive/);
+  assert.equal(await first.tab.$eval("#notice", (notice) => notice.textContent), "");
+  await second.click(400, 300);
+  await second.waitFor("Start Game");
+});
+
+inBrowser("it plays without a network the second time", async (browser) => {
+  const page = await Page.open(browser, address);
+  await page.tab.waitForFunction(() => navigator.serviceWorker.controller !== null);
+  await page.reload();  // now everything goes through the worker
+  await page.tab.waitForFunction(() => performance.getEntriesByName("complete").length > 0);
+  await page.tab.setOfflineMode(true);
+  await page.reload();
+  await swearIn(page, "Ada");
+  await welcomed(page);
+});
+
+// The colours of the canvas that differ from a picture file's, by more than the last bits of a scaled picture.
+const differences = (page, png) => page.tab.evaluate(async (png) => {
+  const bytes = Uint8Array.from(atob(png), (letter) => letter.charCodeAt(0));
+  const shot = await createImageBitmap(new Blob([bytes], {type: "image/png"}));
+  const other = new OffscreenCanvas(800, 600).getContext("2d");
+  other.drawImage(shot, 0, 0);
+  const shown = document.getElementById("canvas").getContext("2d").getImageData(0, 0, 800, 600).data;
+  const wanted = other.getImageData(0, 0, 800, 600).data;
+  let count = 0;
+  for (let i = 0; i < shown.length; ++i) count += Math.abs(shown[i] - wanted[i]) > 2;
+  return count;
+}, readFileSync(png).toString("base64"));
+
+inBrowser("the canvas shows the console's pixels", async (browser) => {
+  const page = await Page.open(browser, address, {width: 800, height: 640});
+  const bar = await page.tab.$eval("#bar", (bar) => bar.offsetHeight);
+  await page.tab.setViewport({width: 800, height: 600 + bar});
+  const headless = new Console(program);
+  browser.once("disconnected", () => headless.end());
+  const folder = mkdtempSync(join(tmpdir(), "quenvale-shots-"));
+  const keys = (key) => [[`key ${key}`], async () => { await sleep(1100); await page.key(key); }];
+  const steps = {
+    title: [["start"], async () => {}],
+    start: [["click frmlogo"], () => page.press("Go on")],
+    name: [["click frmStart.Command1"], () => page.press("Start Game")],
+    welcome: [["type frmName.Text1 \"Ada\"", "click frmName.Command3"], async () => { await page.fill("Ada"); await page.press("OK"); }],
+    taxes: keys("2"),
+    higher: [["click frmTaxes.Command1"], () => page.press("Raise")],
+    actions: keys("1"),
+    army: keys("4"),
+    options: keys("6"),
+    save: [["click frmOptions.Label5(3)"], () => page.press("Save Game")],
+  };
+  for (const [name, [requests, act]] of Object.entries(steps)) {
+    for (const request of requests) await headless.ask(request);
+    await act();
+    await page.tab.waitForNetworkIdle({idleTime: 300});
+    await sleep(200);
+    const file = join(folder, name + ".png");
+    await headless.ask(`shot ${JSON.stringify(file)}`);
+    await page.tab.screenshot({path: join(folder, name + ".page.png"), captureBeyondViewport: false});
+    assert.equal(await differences(page, file), 0, `${name}: see ${folder}`);
+  }
+});
+
+inBrowser("nothing wakes an idle page", async (browser) => {
+  const page = await Page.open(browser, address);
+  await sleep(1000);
+  await page.tab.evaluate(() => {
+    window.steps = 0;
+    const step = Module._quenvale_step;
+    Module._quenvale_step = () => { ++window.steps; step(); };
+  });
+  await sleep(5000);
+  assert.equal(await page.tab.evaluate(() => window.steps), 0);
+});
+
+inBrowser("the page and its twin have no barrier that a checker finds", async (browser) => {
+  const page = await Page.open(browser, address);
+  await swearIn(page, "Ada");
+  await welcomed(page);
+  await page.press("Taxes and budget");
+  await page.tab.evaluate(axe);
+  const found = await page.tab.evaluate(async () => (await window.axe.run()).violations.map((v) => `${v.id}: ${v.nodes.map((n) => n.html).join(" ")}`));
+  assert.deepEqual(found, []);
+});
+
+inBrowser("nothing is asked of anybody else", async (browser) => {
+  const page = await Page.open(browser, address);
+  await swearIn(page, "Ada");
+  await welcomed(page);
+  assert.deepEqual(page.requests.filter((url) => !url.startsWith(address) && !url.startsWith("data:")), []);
+  assert.equal((await page.tab.cookies()).length, 0);
+});

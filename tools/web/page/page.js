@@ -1,0 +1,351 @@
+// The page's half of the game. The other half asks for these things by the names of src/platform/web/page.h.
+"use strict";
+
+(() => {
+  const $ = (id) => document.getElementById(id);
+  const canvas = $("canvas");
+  const kHome = "/home/web_user/.local/share/quenvale";
+  const kGame = "/game";
+  const state = { sizes: new Map(), fetching: new Map(), twin: "", timer: 0, pending: false, mayKeep: false,
+                  keeping: false, again: false, dirty: false, sound: null, source: null, ready: false };
+
+  const notice = (text) => { $("notice").textContent = text; };
+
+  // The canvas ------------------------------------------------------------------------------------------------------
+
+  const resize = () => {
+    const box = canvas.getBoundingClientRect();
+    const ratio = window.devicePixelRatio || 1;
+    const width = Math.round(box.width * ratio);
+    const height = Math.round(box.height * ratio);
+    if (width > 0 && height > 0 && (width !== canvas.width || height !== canvas.height)) {
+      canvas.width = width;
+      canvas.height = height;
+      if (state.ready) Module._quenvale_resized();
+    }
+  };
+
+  let context = null;
+  const put = (heap, pixels, pitch, left, top, width, height) => {
+    context = context || canvas.getContext("2d", { alpha: false });
+    const image = context.createImageData(width, height);
+    const to = new Uint32Array(image.data.buffer);
+    for (let y = 0, at = 0; y < height; ++y) {
+      let from = (pixels + (top + y) * pitch + left * 4) >> 2;
+      for (let x = 0; x < width; ++x, ++at, ++from) {
+        const bgr = Module.HEAPU32 ? Module.HEAPU32[from] : HEAPU32[from];
+        to[at] = 0xff000000 | ((bgr & 0xff) << 16) | (bgr & 0xff00) | ((bgr >> 16) & 0xff);
+      }
+    }
+    context.putImageData(image, left, top);
+  };
+
+  const toggleFullScreen = () => {
+    if (document.fullscreenElement) document.exitFullscreen();
+    else document.documentElement.requestFullscreen().catch(() => notice("The browser keeps its window."));
+  };
+
+  // Sound: the device opens with the first sound after the first press, and closes when nothing sounds any more. ---------
+
+  const play = async (path) => {
+    try {
+      state.sound = state.sound || new AudioContext();
+      if (state.sound.state === "suspended") await state.sound.resume();
+      const answer = await fetch(path.slice(kGame.length + 1));
+      const samples = await state.sound.decodeAudioData(await answer.arrayBuffer());
+      if (state.source) state.source.stop();
+      const source = state.source = state.sound.createBufferSource();
+      source.buffer = samples;
+      source.connect(state.sound.destination);
+      source.onended = () => { if (state.source === source) { state.source = null; state.sound.suspend(); } };
+      source.start();
+    } catch (error) { console.warn("quenvale:", path, error.message); }
+  };
+
+  // Files -------------------------------------------------------------------------------------------------------------
+
+  const folderOf = (path) => path.slice(0, path.lastIndexOf("/"));
+  const write = (path, bytes) => { Module.FS.mkdirTree(folderOf(path)); Module.FS.writeFile(path, bytes); };
+
+  // Everything that comes within a moment is told at once.
+  let arrived = 0;
+  const tellArrivals = () => { arrived = 0; Module._quenvale_files_came(); };
+
+  // True: it is on its way.
+  const fetchFile = (path) => {
+    const name = path.slice(kGame.length + 1);
+    if (!state.sizes.has(name)) return 0;
+    if (!state.fetching.has(name)) {
+      state.fetching.set(name, fetch(name)
+        .then((answer) => { if (!answer.ok) throw new Error(answer.status); return answer.arrayBuffer(); })
+        .then((bytes) => {
+          write(path, new Uint8Array(bytes));
+          arrived = arrived || setTimeout(tellArrivals, 20);
+        })
+        .catch((error) => { state.sizes.delete(name); console.warn("quenvale:", name, error.message); }));
+    }
+    return 1;
+  };
+
+  // What was written goes to the browser's store; a press on "close" in between is asked about.
+  const keep = () => {
+    if (!state.mayKeep) return;
+    state.dirty = true;
+    if (state.keeping) { state.again = true; return; }
+    state.keeping = true;
+    Module.FS.syncfs(false, (error) => {
+      state.keeping = false;
+      if (error) notice("The browser's archive is full or closed: " + error + ". The game is not kept.");
+      if (state.again) { state.again = false; keep(); } else state.dirty = Boolean(error);
+    });
+  };
+  window.addEventListener("beforeunload", (event) => { if (state.dirty) event.preventDefault(); });
+
+  // The twin ------------------------------------------------------------------------------------------------------------
+
+  const does = (what, id, text) =>
+    Module.ccall("quenvale_do", null, ["string", "number", "string"], [what, id, text || ""]);
+
+  const element = (name, text, properties) => Object.assign(document.createElement(name), { textContent: text }, properties);
+
+  // The page's own elements say what they are.
+  const worded = (thing) =>
+    thing.said.replace(/(, not chosen|, chosen)?(, press for the next one)?(, (button|menu item|can be chosen|edit))?$/, "");
+
+  const makeThing = (thing) => {
+    if (thing.id === undefined) return element("span", thing.said + " ");
+    if (thing.kind === "field") {
+      const label = element("label", worded(thing) + " ");
+      const field = element("input", "", { value: thing.value, disabled: !thing.enabled });
+      field.addEventListener("change", () => does("type", thing.id, field.value));
+      label.append(field);
+      return label;
+    }
+    const button = element("button", worded(thing), { type: "button", disabled: !thing.enabled });
+    if (thing.kind === "option") button.setAttribute("aria-pressed", String(thing.chosen));
+    button.addEventListener("click", () => does("press", thing.id));
+    return button;
+  };
+
+  const makeTable = (rows) => {
+    const table = element("table", "");
+    if (rows[0].title) table.append(element("caption", rows[0].title));
+    for (const row of rows) {
+      const line = element("tr", "");
+      row.things.forEach((thing, at) => {
+        const cell = element(at === 0 && thing.id === undefined ? "th" : "td", "");
+        if (cell.tagName === "TH") cell.scope = "row";
+        cell.append(makeThing(thing));
+        line.append(cell);
+      });
+      table.append(line);
+    }
+    return table;
+  };
+
+  const makeScreen = (screen) => {
+    const part = element("section", "");
+    part.append(element("h2", screen.title || "Quenvale"));
+    part.setAttribute("aria-label", screen.title || "Quenvale");
+    part.inert = !screen.usable;
+    for (let i = 0; i < screen.rows.length; ++i) {
+      if (screen.rows[i].number) {
+        let end = i;
+        while (end < screen.rows.length && screen.rows[end].number) ++end;
+        part.append(makeTable(screen.rows.slice(i, end)));
+        i = end - 1;
+      } else {
+        const line = element("p", "");
+        screen.rows[i].things.forEach((thing) => line.append(makeThing(thing)));
+        part.append(line);
+      }
+    }
+    if (screen.goesOn) {
+      const button = element("button", "Go on", { type: "button" });
+      button.addEventListener("click", () => does("go on", 0, screen.name));
+      part.append(button);
+    }
+    return part;
+  };
+
+  // The focus stays where it was: on the thing at the same place of the reading order.
+  const tell = (json) => {
+    const twin = $("twin");
+    const things = () => [...twin.querySelectorAll("button, input")];
+    const at = things().indexOf(document.activeElement);
+    const screens = JSON.parse(json);
+    state.field = screens.flatMap((screen) => screen.rows.flatMap((row) => row.things))
+      .find((thing) => thing.kind === "field" && thing.focused);
+    const front = screens.find((screen) => screen.usable) || screens[0];
+    twin.replaceChildren(...screens.map(makeScreen));
+    if (at >= 0) (things()[at] || things()[0] || canvas).focus();
+    const said = front ? front.rows.filter((row) => row.things.every((thing) => thing.id === undefined))
+      .map((row) => row.things.map((thing) => thing.said).join(" ")).join(". ") : "";
+    if (said !== $("said").textContent) $("said").textContent = said;
+  };
+
+  // A gamepad is asked about while one is there; browsers tell of none by themselves. ----------------------------------------
+
+  // By the standard mapping, to the keys of page_loop.cpp: cross, A, B, shoulders, Start, Y.
+  const kPad = [[12, 0], [13, 1], [14, 2], [15, 3], [0, 4], [1, 5], [4, 6], [5, 7], [9, 8], [3, 9]];
+  const kStick = [[1, -1, 0], [1, 1, 1], [0, -1, 2], [0, 1, 3]];
+  let held = new Set();
+  const lookAtPads = () => {
+    const pads = navigator.getGamepads().filter((pad) => pad && pad.mapping === "standard");
+    const now = new Set();
+    for (const pad of pads) {
+      for (const [button, key] of kPad) if (pad.buttons[button] && pad.buttons[button].pressed) now.add(key);
+      for (const [axis, way, key] of kStick) if (pad.axes[axis] * way > (held.has(key) ? 0.35 : 0.6)) now.add(key);
+    }
+    for (const key of now) if (!held.has(key)) does("key", key);
+    held = now;
+    if (pads.length > 0) requestAnimationFrame(lookAtPads);
+  };
+
+  // The archive enters and leaves as files, byte for byte those of the desktop's game. ---------------------------------------
+
+  const archive = function* (folder) {
+    for (const name of Module.FS.readdir(folder).filter((name) => name !== "." && name !== "..")) {
+      const path = folder + "/" + name;
+      if (Module.FS.isDir(Module.FS.stat(path).mode)) yield* archive(path);
+      else yield path;
+    }
+  };
+
+  const take = () => {
+    const files = [...archive(kHome)];
+    if (files.length === 0) { notice("The archive is empty. Nothing has been kept yet."); return; }
+    for (const path of files) {
+      const link = element("a", "", { download: path.split("/").pop(),
+        href: URL.createObjectURL(new Blob([Module.FS.readFile(path)])) });
+      link.click();
+      setTimeout(() => URL.revokeObjectURL(link.href), 1000);
+    }
+  };
+
+  const kArchive = /^(Save\d+|savenames|Top|Continue)(\.sum|\.chronicle)?$/;
+  const bring = async (files) => {
+    for (const file of files) {
+      if (!kArchive.test(file.name)) { notice(file.name + " is none of the archive's files."); continue; }
+      const folder = file.name.startsWith("Top") ? "Data" : "Save";
+      write(kHome + "/" + folder + "/" + file.name, new Uint8Array(await file.arrayBuffer()));
+      notice(file.name + " is in the archive.");
+    }
+    keep();
+  };
+
+  // The half of the page that the game calls. ----------------------------------------------------------------------------------
+
+  const page = {
+    width: () => canvas.width,
+    height: () => canvas.height,
+    put, toggleFullScreen, play, tell, keep,
+    leaveFullScreen: () => { if (document.fullscreenElement) document.exitFullscreen(); },
+    open: (file, chapter) => window.open(file + (chapter ? "#" + chapter : ""), "_blank", "noopener"),
+    fetch: fetchFile,
+    wakeIn: (milliseconds) => {
+      if (state.pending && milliseconds > 0) return;
+      clearTimeout(state.timer);
+      state.pending = milliseconds === 0;
+      state.timer = setTimeout(() => { state.pending = false; Module._quenvale_step(); }, milliseconds);
+    },
+    typing: (typing) => {
+      if (!window.matchMedia("(pointer: coarse)").matches) return;
+      const keyboard = $("keyboard");
+      keyboard.hidden = !typing;
+      keyboard.value = typing && state.field ? state.field.value : "";
+      if (typing) keyboard.focus(); else canvas.focus();
+    },
+    ended: () => {
+      keep();
+      canvas.hidden = true;
+      $("loading").hidden = false;
+      $("progress").hidden = true;
+      $("loading-text").textContent = "The President has left. Reload the page to be sworn in again.";
+    },
+  };
+
+  // The start: program, first files and archive at once, then the game. ----------------------------------------------------------
+
+  const progress = (part) => { $("progress").value = part; };
+
+  const load = async (name, total, from, share) => {
+    const answer = await fetch(name);
+    if (!answer.ok) throw new Error(name + ": " + answer.status);
+    const reader = answer.body.getReader();
+    const parts = [];
+    let size = 0;
+    for (let next = await reader.read(); !next.done; next = await reader.read()) {
+      parts.push(next.value);
+      size += next.value.length;
+      progress(from + share * Math.min(size / total, 1));
+    }
+    const bytes = new Uint8Array(size);
+    parts.reduce((at, part) => { bytes.set(part, at); return at + part.length; }, 0);
+    return bytes;
+  };
+
+  const unpack = (bytes, index) => {
+    let at = 0;
+    for (const [path, size] of index) { write(path, bytes.subarray(at, at + size)); at += size; }
+  };
+
+  const openArchive = () => new Promise((resolve) => {
+    const FS = Module.FS;
+    FS.mkdirTree(kHome);
+    const alone = (lock) => {
+      state.mayKeep = lock !== null;
+      FS.mount(FS.filesystems ? FS.filesystems.IDBFS : Module.IDBFS, {}, kHome);
+      FS.syncfs(true, (error) => {
+        if (error) { state.mayKeep = false; notice("This window keeps no archive (a private one?): play on, nothing will be saved."); }
+        else if (!state.mayKeep) notice("Another tab has the archive: this one plays, but nothing it saves is kept.");
+        resolve();
+      });
+    };
+    if (!navigator.locks) { alone({}); return; }
+    navigator.locks.request("quenvale archive", { ifAvailable: true }, (lock) => {
+      alone(lock);
+      return lock === null ? null : new Promise(() => {});  // for as long as the tab lives
+    }).catch(() => alone(null));
+  });
+
+  const begin = async () => {
+    const site = await (await fetch("site.json")).json();
+    site.files.forEach(([name, size]) => state.sizes.set(name, size));
+    const runtime = new Promise((resolve) => { Module.onRuntimeInitialized = resolve; });
+    const program = load("quenvale.wasm", site.program, 0, 0.5);
+    const first = load("first.bin", site.first.reduce((sum, [, size]) => sum + size, 0), 0.5, 0.5);
+    Module.instantiateWasm = (imports, done) => {
+      program.then((bytes) => WebAssembly.instantiate(bytes, imports)).then((made) => done(made.instance, made.module));
+      return {};
+    };
+    const script = element("script", "", { src: "quenvale.js" });
+    document.body.append(script);
+    await runtime;
+    unpack(await first, site.first);
+    await openArchive();
+    resize();
+    Module.callMain();
+    state.ready = true;
+    $("loading").hidden = true;
+    canvas.focus();
+    performance.mark("title");
+    unpack(new Uint8Array(await (await fetch("late.bin")).arrayBuffer()), site.late);
+    performance.mark("complete");
+    if ("serviceWorker" in navigator && location.protocol.startsWith("http")) navigator.serviceWorker.register("sw.js").catch(() => {});
+  };
+
+  window.Module = { page, canvas, print: console.log, printErr: console.warn };
+  new ResizeObserver(resize).observe(canvas);
+  $("full").addEventListener("click", toggleFullScreen);
+  $("export").addEventListener("click", take);
+  $("import").addEventListener("change", (event) => bring(event.target.files));
+  $("keyboard").addEventListener("input", (event) => { if (state.field) does("type", state.field.id, event.target.value); });
+  $("keyboard").addEventListener("keydown", (event) => { if (event.key === "Enter") does("key", 4); });
+  window.addEventListener("gamepadconnected", () => requestAnimationFrame(lookAtPads));
+  canvas.addEventListener("pointerdown", () => canvas.focus());
+  begin().catch((error) => {
+    $("loading-text").textContent = "The President could not be woken: " + error.message + ". Reload the page to try again.";
+    $("progress").hidden = true;
+  });
+})();
