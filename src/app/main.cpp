@@ -27,9 +27,6 @@ void UseSettings(Game& game, platform::SdlHost& host)
         sheet.Tell(failure ? failure->Message() : std::string());
     };
     host.place = text.settings.window;
-    host.onFullScreen = [&sheet](bool on) {
-        sheet.Change([on](office::Settings& settings) { settings.fullScreen = on; });
-    };
 }
 
 }  // namespace

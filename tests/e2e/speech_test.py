@@ -169,7 +169,7 @@ class Speech(stage.Case):
 
         def heard():
             game.hands("key", "Tab")
-            return "button.2of5." in again.heard()
+            return "button.2of6." in again.heard()
 
         self.until("it is found again", heard)
         self.assertEqual(game.said(), "")

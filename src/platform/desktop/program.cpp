@@ -103,7 +103,6 @@ void RunInWindow(ui::Desktop& desktop, reading::Narrator& narrator, SdlHost& hos
     const Video video;
     const Signals signals(PushQuit);
     Window window(guard, host.place);
-    window.onToggled = host.onFullScreen;
     QuitWhenDestroyed();
     Painter painter(folder);
     Audio audio(folder);

@@ -27,8 +27,6 @@ public:
 
     // Where the window was left the last time, told before Run; where it is left now, after it.
     ui::Rect place{};  // pixels of the desktop; no width: unknown
-    // The player has pressed the window's own key for it.
-    std::function<void(bool)> onFullScreen;
 
     bool Ended() const { return ended_; }
     // Null for both when the window is gone.

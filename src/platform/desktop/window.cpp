@@ -133,11 +133,7 @@ void Window::FocusGained()
 
 void Window::ToggleFullScreen()
 {
-    const bool enters = !IsFullScreen(*window_);
-    enters ? EnterFullScreen() : LeaveFullScreen();
-    if (onToggled) {
-        onToggled(enters);
-    }
+    IsFullScreen(*window_) ? LeaveFullScreen() : EnterFullScreen();
 }
 
 ui::Rect Window::Place() const

@@ -19,7 +19,6 @@
 #include <SDL2/SDL_video.h>
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -46,7 +45,6 @@ public:
     void EnterFullScreen();
     void LeaveFullScreen();
     void ToggleFullScreen() override;
-    std::function<void(bool)> onToggled;  // full screen, by the player's key
     // Of the window when it is neither full screen nor maximised, now or at last; without a width if never.
     ui::Rect Place() const;
     // Out of full screen for another program, and into it again when the player comes back from there.
