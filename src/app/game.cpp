@@ -155,13 +155,15 @@ void Game::WireKeys()
             const int item = static_cast<int>(key) - static_cast<int>(ui::Key::Digit1);
             return !desktop_.Click(screens_.frmMain.Label5[item]);
         }
-        return false;
+        // Nothing has the focus after a refusal, or the item of the menu that the pointer pressed long ago.
+        return key == ui::Key::Return && free && bank_.ComeBack();
     };
 }
 
 void Game::WireOffice()
 {
     desktop_.onRefresh = [this] {
+        bank_.Review();
         slip_.Refresh();
         strip_.Refresh();
     };

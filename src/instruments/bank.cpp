@@ -1,7 +1,10 @@
 #include "instruments/bank.h"
 
+#include "core/budget.h"
 #include "month/banner.h"
 
+#include <algorithm>
+#include <functional>
 #include <optional>
 
 namespace instruments {
@@ -11,6 +14,15 @@ namespace {
 double AsDouble(const core::i32& field)
 {
     return static_cast<double>(std::int64_t{field});
+}
+
+constexpr std::int64_t kMillion = 1'000'000;
+constexpr std::string_view kDreams = "In your dreams!";
+
+// What the state will lack next month: it must be found in the treasury then.
+std::int64_t Deficit(const core::GameState& state)
+{
+    return std::max<std::int64_t>(-core::BalanceNow(state), 0);
 }
 
 }  // namespace
@@ -27,6 +39,10 @@ Bank::Bank(core::GameState& state, screens::FrmBank& bank, screens::FrmMonthBann
 {
     bank.onLoad = [this] { ShowFigures(); };
     bank.Command3.onClick = [this] { Proceed(); };
+    bank.cmdStep.OnClick(
+        [this](int step) { Add(screens::kBankMillions.at(static_cast<std::size_t>(step)) * kMillion); });
+    bank.cmdAll.onClick = [this] { TakeAll(); };
+    bank.cmdNotToday.onClick = [this] { Leave(); };
 }
 
 void Bank::Open()
@@ -39,6 +55,7 @@ void Bank::Open()
 void Bank::ShowFigures()
 {
     bank_.Label2.SetText(format_.Amount(state_.SwissBank));
+    bank_.lblDeficit.SetText(format_.Amount(Deficit(state_)));
     bank_.Text1.SetText(format_.Amount(state_.Money));
     bank_.Text1.Change([](ui::TextEdit& edit) { edit.SelectAll(); });
 }
@@ -57,8 +74,63 @@ void Bank::Proceed()
         TransferToSwissBank(state_, *amount);
         ShowFigures();
     } else {
-        Refuse("In your dreams!");
+        Refuse(kDreams);
     }
+}
+
+// The box is filled with all there is; the first step begins at nought instead. No step asks for more than there is.
+void Bank::Add(std::int64_t dollars)
+{
+    sound_.SoundClick();
+    const bool untouched = bank_.Text1.Text() == format_.Amount(state_.Money);
+    const double typed = untouched ? 0 : std::max(format_.ParseAmount(bank_.Text1.Text()).value_or(0), 0.0);
+    const double most = std::max(AsDouble(state_.Money), 0.0);
+    bank_.Text1.SetText(format_.Amount(std::min(typed + static_cast<double>(dollars), most)));
+}
+
+void Bank::TakeAll()
+{
+    sound_.SoundClick();
+    bank_.Text1.SetText(format_.Amount(state_.Money));
+}
+
+void Bank::Leave()
+{
+    sound_.SoundClick();
+    bank_.Hide();
+}
+
+void Bank::Review()
+{
+    banner_.Label1.onClick = Refused() ? std::function<void()>([this] { ComeBack(); }) : nullptr;
+    if (!bank_.Visible()) {
+        return;
+    }
+    const std::optional<double> amount = format_.ParseAmount(bank_.Text1.Text());
+    std::string advice;
+    if (!amount || *amount < 0) {
+        advice = "The bank would like a number, and a cheerful one.";
+    } else if (*amount > AsDouble(state_.Money)) {
+        advice = "The treasury holds " + format_.Amount(state_.Money) + ". The bank can count.";
+    } else if (AsDouble(state_.Money) - *amount < static_cast<double>(Deficit(state_))) {
+        advice = "This would leave too little for the coming month.";
+    }
+    bank_.lblAdvice.SetText(advice);
+}
+
+bool Bank::ComeBack()
+{
+    if (!Refused()) {
+        return false;
+    }
+    month::ClearBanner(banner_);
+    Open();
+    return true;
+}
+
+bool Bank::Refused() const
+{
+    return !bank_.Visible() && banner_.Label1.Text() == kDreams;
 }
 
 // The banner lies behind the bank's sheet, so that a refusal takes the sheet away.

@@ -19,9 +19,17 @@ public:
          const core::NumberFormat& format);
 
     void Open();
+    // Says what is wrong with the amount before it is sent; whenever somebody looks.
+    void Review();
+    // After a refusal, while its words still stand there: back to the counter. Returns whether it was that.
+    bool ComeBack();
 
 private:
     void ShowFigures();
+    void Add(std::int64_t dollars);
+    void TakeAll();
+    void Leave();
+    bool Refused() const;
     void Proceed();
     void Refuse(std::string_view text);
 

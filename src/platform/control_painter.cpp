@@ -139,15 +139,47 @@ void PaintPips(Brush& brush, const Control& control)
     }
 }
 
+constexpr double kDrawnOut = 10;  // the card under the pointer
+
+// A card of the drawer's index: two corners cut, a hole, a printed rule, and dots towards its end.
+void PaintCard(Canvas& canvas, const BoxF& card, ui::Color color)
+{
+    constexpr double kCut = 10;
+    const PointF outline[] = {{card.left + kCut, card.top},      {card.Right(), card.top},
+                              {card.Right(), card.Bottom()},     {card.left + kCut, card.Bottom()},
+                              {card.left, card.Bottom() - kCut}, {card.left, card.top + kCut}};
+    canvas.Polygon(outline, color);
+}
+
+void PaintCardPrint(Canvas& canvas, const BoxF& card)
+{
+    constexpr double kColumn = 4;
+    constexpr int kColumns = 7;
+    canvas.Disc({card.left + 11, card.MiddleY()}, 4, look::kBlack);
+    canvas.Fill({card.left + 23, card.top, 1, card.height}, look::kHeading);
+    for (int column = 0; column < kColumns; ++column) {
+        const double x = card.Right() - kColumn * (kColumns - column) + 2;
+        for (double y = card.top + (column % 2 == 0 ? 3 : 5); y < card.Bottom() - 1; y += kColumn) {
+            canvas.Disc({x, y}, 0.5 + 0.2 * column, look::kOchre);
+        }
+    }
+}
+
 // Inverted when the screen's handler says so with the colours: black instead of a bright ground.
 void PaintYellowKey(Brush& brush, const Control& control)
 {
     const BoxF box = control.Place();
     const Control::State& now = control.Now();
-    brush.canvas.Fill(box, now.back);
     if (now.back == look::kBlack) {
-        brush.canvas.Frame(box, 0, 1, look::kYellow);
-        brush.canvas.Fill({box.left, box.top, 6, box.height}, look::kWhite);
+        const BoxF out{box.left, box.top, box.width - kDrawnOut, box.height};
+        PaintCard(brush.canvas, out, look::kYellow);
+        PaintCard(brush.canvas, out.Grown(-1), now.back);
+        brush.canvas.Disc({out.left + 11, out.MiddleY()}, 4, look::kYellow);
+        brush.canvas.Fill({out.left + 20, out.top + 8, 6, out.height - 16}, look::kWhite);
+    } else {
+        const BoxF card{box.left + kDrawnOut, box.top, box.width - kDrawnOut, box.height};
+        PaintCard(brush.canvas, card, now.back);
+        PaintCardPrint(brush.canvas, card);
     }
     PaintText(brush, TextPlace(control), now.text, control.Style(), now.fore);
 }
@@ -240,7 +272,7 @@ BoxF TextPlace(const ui::Control& control)
     case Ornament::Pips:
         return {box.left, box.MiddleY() - 19, box.width, 26};
     case Ornament::YellowKey:
-        return box.Grown(-6);
+        return {box.left + 36, box.top + 1, box.width - 68, box.height - 2};
     case Ornament::Plate:
     case Ornament::Box:
         return box.Grown(-3);

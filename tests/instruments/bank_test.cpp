@@ -88,4 +88,35 @@ TEST(Bank, TypingReplacesTheAmount)
     game.Expect({{"Money", 49'999'300}, {"SwissBank", 700}});
 }
 
+// Steps add up to all there is and no further; what is wrong is told before anything is sent; nothing moves
+// until "Proceed".
+TEST(Bank, HelpsWithTheAmountAndLetsGo)
+{
+    test::TestGame game;
+    game.StartGame();
+    game.Set({{"Money", 12'000'000}});
+    game.Click("frmMain.Label5(1)");
+    game.Click("frmTaxes.Command11");
+    for (const char* expected : {"10,000,000", "12,000,000"}) {
+        game.Click("frmBank.cmdStep(2)");
+        EXPECT_EQ(game.Text("frmBank.Text1"), expected);
+    }
+    game.Type("frmBank.Text1", "12,000,001");
+    game.Desktop().Refresh();
+    EXPECT_EQ(game.Text("frmBank.lblAdvice"), "The treasury holds 12,000,000. The bank can count.");
+    game.Click("frmBank.Command3");
+    EXPECT_FALSE(game.Shown("frmBank"));
+    game.Press(ui::Key::Return);
+    EXPECT_TRUE(game.Shown("frmBank"));
+    EXPECT_EQ(game.Text("frmBank.Text1"), "12,000,000");
+    game.Type("frmBank.Text1", "5");
+    game.Click("frmBank.cmdAll");
+    EXPECT_EQ(game.Text("frmBank.Text1"), "12,000,000");
+    game.Press(ui::Key::Escape);
+    EXPECT_FALSE(game.Shown("frmBank"));
+    game.Press(ui::Key::Return);
+    EXPECT_FALSE(game.Shown("frmBank")) << "nothing was refused";
+    game.Expect({{"Money", 12'000'000}, {"SwissBank", 0}});
+}
+
 }  // namespace

@@ -52,6 +52,8 @@ inline constexpr Color kStripCaptionInk = Rgb(0xB9AD8A);
 inline constexpr Color kQuestion = Rgb(0x93A097);  // the ground of the sign for what nobody told
 inline constexpr Color kStripLoss = Rgb(0xFF8A7A);
 inline constexpr Color kSecretFine = Rgb(0x4B3A17);  // the fine line inside a brass edge
+inline constexpr Color kWood = Rgb(0x4A2416);
+inline constexpr Color kWoodEdge = Rgb(0x24100A);
 inline constexpr Color kBetter = Rgb(0x12504F);      // on paper: a change for the better; kNegative is the other
 
 // Type ------------------------------------------------------------------------------------------------
@@ -184,7 +186,7 @@ inline constexpr TextStyle kAside{
     .face = Face::Caption, .sizes = {{{16, 22}, {14, 18}, {13, 16}}}, .fore = kWhite, .wrap = true,
     .top = true, .shadow = true};
 inline constexpr TextStyle kYellowKey{
-    .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{21, 27}, {16, 20}, {13, 13}}},
+    .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{21, 27}, {16, 18}, {13, 13}}},
     .fore = kBlack, .ornament = Ornament::YellowKey, .wrap = true};
 // The caption shown when the picture is missing.
 inline constexpr TextStyle kPicture{

@@ -1,6 +1,6 @@
-// frmOptions: what the player may do beside governing. Yellow keys; the one under the pointer is inverted.
+// frmOptions: what the player may do beside governing. Yellow cards; the one under the pointer is inverted.
 //
-// Below the keys is room for what the banner says, because the menu stays up while the manual is opened and
+// Beside the cards is room for what the banner says, because the menu stays up while the manual is opened and
 // hides the banner.
 #pragma once
 
@@ -24,11 +24,18 @@ enum OptionItem {
     kOptionItems,
 };
 
-inline constexpr ui::Rect kOptionsSheet{560, 58, 228, 412};
+// A drawer of the card index: those of Label5, and the settings. They stand 42 apart, and the drawer's front moves
+// with their number; a card has room at its left to be drawn out by.
+inline constexpr int kCards = kOptionItems + 1;
+inline constexpr int kCardsTop = 97;
+inline constexpr int kCardPitch = 42;
+inline constexpr int kDrawerFront = kCardsTop + kCardPitch * kCards + 2;
 inline constexpr ui::Rect OptionPlace(int place)
 {
-    return {568, 66 + 44 * place, 212, 41};
+    return {564, kCardsTop + kCardPitch * place, 216, 38};
 }
+inline constexpr ui::Rect kOptionsSheet{556, 54, 236, kDrawerFront - 54 + 10};
+inline constexpr ui::Rect kDrawerWood{552, kDrawerFront, 244, 34};
 
 inline constexpr std::array<ui::ElementRow, kOptionItems> kOptionRows{{
     // item           place            caption
@@ -43,19 +50,25 @@ inline constexpr std::array<ui::ElementRow, kOptionItems> kOptionRows{{
 }};
 
 inline constexpr std::array kOptionsDecor{
-    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = kOptionsSheet, .color = look::kBrass},
-    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = kOptionsSheet.Grown(-2), .color = look::kBlack},
+    ui::Decor{ui::Decor::Kind::SecretSheet, kOptionsSheet, "Card index"},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = kDrawerWood, .color = look::kWoodEdge},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = kDrawerWood.Grown(-2), .color = look::kWood},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {578, kDrawerFront + 12, 10, 10}, .color = look::kBrass},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {760, kDrawerFront + 12, 10, 10}, .color = look::kBrass},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {614, kDrawerFront + 5, 120, 24}, .color = look::kBrass},
+    ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {616, kDrawerFront + 7, 116, 20}, .color = look::kSecret},
+    ui::Decor{ui::Decor::Kind::Caption, {646, kDrawerFront + 5, 80, 24}, "Options"},
 };
 
 struct FrmOptions : ui::Form {
     explicit FrmOptions(ui::Stage& stage)
-        : Form(stage, {.name = "frmOptions", .rect = {560, 58, 228, 530}, .decor = kOptionsDecor})
+        : Form(stage, {.name = "frmOptions", .rect = {330, 54, 466, 508}, .decor = kOptionsDecor})
     {}
 
     ui::ControlArray<ui::Label> Label5{*this, "Label5", kOptionRows};
-    ui::Label lblSettings{*this, "lblSettings", OptionPlace(8), "Settings", look::kYellowKey,
+    ui::Label lblSettings{*this, "lblSettings", OptionPlace(kOptionItems), "Settings", look::kYellowKey,
         {.tabStop = true, .back = look::kYellow}};
-    ui::Label Label1{*this, "Label1", {562, 478, 224, 110}, "", look::kAside};
+    ui::Label Label1{*this, "Label1", {334, 440, 208, 114}, "", look::kAside, {.back = look::kBlack}};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.
     ui::Shape OLE1{*this, "OLE1", {560, 58, 1, 1}, "", look::kShape, {.visible = false}};
 };
