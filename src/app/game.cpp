@@ -95,6 +95,7 @@ void Game::WireMonth()
 void Game::WireShell()
 {
     opening_.loadGame = [this] { savedGames_.OpenFromStart(); };
+    savedGames_.onLoaded = [this] { month_.Forget(); };
     savedGames_.beginGame = [this] { opening_.BeginGame(); };
     savedGames_.backToStart = [this] { opening_.ShowStart(); };
     chiefs_.armyIn = [this] { intelligence_.ArmyIn(); };

@@ -315,6 +315,7 @@ void SavedGames::Load()
         return;
     }
     state_ = *loaded;
+    onLoaded();
     ShowFigures(screens_.frmGameLoaded, state_, format_, format_.Amount(std::int64_t{state_.Score}));
     screens_.frmGameLoaded.Show();
 }

@@ -28,6 +28,7 @@ public:
     SavedGames(core::GameState& state, ui::Desktop& desktop, Screens screens, media::Sound& sound,
                const files::WrittenFiles& files, const core::NumberFormat& format);
 
+    std::function<void()> onLoaded;  // another game goes on from here: its month is not the one that was left
     std::function<void()> beginGame;    // what a game needs that is loaded from the start screen
     std::function<void()> backToStart;  // where "Cancel" leads from there
 

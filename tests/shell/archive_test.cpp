@@ -110,6 +110,18 @@ TEST_F(ArchiveScreens, SaveAndLoadAGame)
     EXPECT_FALSE(game_.Shown("frmGameLoaded"));
 }
 
+// The month that was left is not the loaded game's: nothing of it is told at that one's end.
+TEST_F(ArchiveScreens, LeaveTheOtherGamesMonthBehind)
+{
+    Save(1, "Quiet");
+    game_.game.GetJournal().Add(core::Kind::War);
+    OpenLoad();
+    game_.Click("frmLoad.Option1");
+    game_.Click("frmLoad.Command1");
+    EXPECT_TRUE(game_.Shown("frmGameLoaded"));
+    EXPECT_TRUE(game_.game.GetJournal().Notes().empty());
+}
+
 TEST_F(ArchiveScreens, AskBeforeAUsedSlotIsWrittenOver)
 {
     Save(2, "first");
