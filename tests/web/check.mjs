@@ -38,7 +38,7 @@ const playToTheHall = async (page) => {
     const buttons = screens.flatMap((screen) => screen.buttons);
     const wish = wishes.find((words) => buttons.some((button) => button.startsWith(words)));
     if (wish) await page.press(wish);
-    else if (buttons.length > 0 && !buttons[0].startsWith("Presidential")) await page.press(buttons[0]);
+    else if (buttons.length > 0 && !buttons[0].startsWith("Presidential")) await page.press(buttons[step % buttons.length]);
     else await page.key("Space");
     await sleep(20);
   }
@@ -137,11 +137,9 @@ inBrowser("the canvas shows the console's pixels", async (browser) => {
     name: [["click frmStart.Command1"], () => page.press("Start Game")],
     welcome: [["type frmName.Text1 \"Ada\"", "click frmName.Command3"], async () => { await page.fill("Ada"); await page.press("OK"); }],
     taxes: keys("2"),
-    higher: [["click frmTaxes.Command1"], () => page.press("Raise")],
     actions: keys("1"),
-    army: keys("4"),
     options: keys("6"),
-    save: [["click frmOptions.Label5(3)"], () => page.press("Save Game")],
+    save: [["click frmOptions.Label5(6)"], () => page.press("Save Game")],
   };
   for (const [name, [requests, act]] of Object.entries(steps)) {
     for (const request of requests) await headless.ask(request);
