@@ -31,8 +31,9 @@ Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, 
 void Game::Start()
 {
     std::vector<std::string> written = persist::Archive::Files();
-    const std::vector<std::string> hall = persist::HallFile::Files();
-    written.insert(written.end(), hall.begin(), hall.end());
+    for (const std::vector<std::string>& more : {persist::HallFile::Files(), persist::KeptGame::Files()}) {
+        written.insert(written.end(), more.begin(), more.end());
+    }
     written_.Tidy(written);
     opening_.ShowTitle();
 }
@@ -95,7 +96,19 @@ void Game::WireMonth()
 void Game::WireShell()
 {
     opening_.loadGame = [this] { savedGames_.OpenFromStart(); };
-    savedGames_.onLoaded = [this] { month_.Forget(); };
+    opening_.onStartShown = [this] { continuation_.Offer(); };
+    savedGames_.onLoaded = [this] {
+        month_.Forget();
+        continuation_.Begin();
+    };
+    continuation_.beginGame = [this] { opening_.BeginGame(); };
+    continuation_.onResumed = [this] { month_.Forget(); };
+    newGame_.onBegun = [this] { continuation_.Begin(); };
+    month_.OnClosed([this](const month::Closed& closed) {
+        if (!closed.gameOver) {
+            continuation_.MonthClosed();
+        }
+    });
     savedGames_.beginGame = [this] { opening_.BeginGame(); };
     savedGames_.backToStart = [this] { opening_.ShowStart(); };
     chiefs_.armyIn = [this] { intelligence_.ArmyIn(); };
@@ -174,7 +187,10 @@ void Game::WireOffice()
     narrator_.onSwitched = [this](bool on) {
         settings_.Change([on](office::Settings& settings) { settings.narration = on; });
     };
-    hall_.onEntered = [this](int place, const std::string& points) { farewell_.Print(place, points); };
+    hall_.onEntered = [this](int place, const std::string& points) {
+        farewell_.Print(place, points);
+        continuation_.GameOver();
+    };
 }
 
 void Game::CarryOut(const office::Settings& settings)

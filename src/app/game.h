@@ -37,6 +37,7 @@
 #include "office/slip.h"
 #include "office/strip.h"
 #include "shell/army.h"
+#include "shell/continuation.h"
 #include "shell/display.h"
 #include "shell/hall.h"
 #include "shell/manual.h"
@@ -79,6 +80,8 @@ public:
     core::Journal& GetJournal() { return journal_; }
     month::Month& GetMonth() { return month_; }
     const files::ProgramFolder& Folder() const { return folder_; }
+    // Whether closed months are kept for "Continue"; off at first.
+    void Autosave(bool on) { continuation_.Keep(on); }
     office::SettingsSheet& GetSettings() { return settings_; }
     // Silent until it is switched on and given a voice.
     reading::Narrator& GetNarrator() { return narrator_; }
@@ -170,6 +173,7 @@ private:
         sound_,
         written_,
         format_};
+    shell::Continuation continuation_{state_, {screens_.frmStart, screens_.frmMonthBanner}, sound_, written_};
     shell::HallScreen hall_{
         state_,   month_,
         desktop_, {screens_.frmTop102, screens_.frmMonthBanner, screens_.frmlogo, screens_.frmStart},

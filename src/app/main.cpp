@@ -40,6 +40,7 @@ int main()
     };
     Game game(host, files::ProgramFolder::Find(), core::Chance(timeOfDay));
     UseSettings(game, host);
+    game.Autosave(true);
     game.Start();
     const ui::Rect before = host.place;
     const int status = platform::Run(game.GetDesktop(), game.GetNarrator(), host, game.Folder());

@@ -14,6 +14,9 @@ inline constexpr PerGroupAndPersonalArmy<std::string_view> kGroupNames{
     "Army",    "Police",   "Guerrillas",  "Prisoners",      "PersonalArmy",
 };
 
+// By Level; what went beyond the last can only have been hard.
+inline constexpr PerLevel<std::string_view> kLevelNames = std::to_array<std::string_view>({"Easy", "Normal", "Hard"});
+
 // By War - 1.
 inline constexpr std::size_t kNeighbours = 3;
 inline constexpr std::array<std::string_view, kNeighbours> kNeighbourNames{"Hermosita", "Feraz", "Descalza"};

@@ -187,13 +187,12 @@ std::string Text(std::string_view text)
     return quoted + '"';
 }
 
-std::string Number(float value)
+std::string Number(float value, int digits)
 {
-    constexpr int kDigits = 7;
-    char digits[32];
+    char written[32];
     const auto [end, error] =
-        WriteDecimal(std::begin(digits), std::end(digits), std::isfinite(value) ? value : 0.0F, kDigits);
-    return {digits, end};
+        WriteDecimal(std::begin(written), std::end(written), std::isfinite(value) ? value : 0.0F, digits);
+    return {written, end};
 }
 
 }  // namespace files

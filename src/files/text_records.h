@@ -38,6 +38,8 @@ std::optional<float> AsFloat(const Item& item);
 // How a record is written. A line is one record: Text("Ada") + kLineEnd.
 inline constexpr std::string_view kLineEnd = "\r\n";
 std::string Text(std::string_view text);  // in quotes, its own quotes doubled, made valid UTF-8
-std::string Number(float value);          // at most 7 digits; what is no number is written as 0
+// At most so many digits; what is no number is written as 0.
+inline constexpr int kDigits = 7;
+std::string Number(float value, int digits = kDigits);
 
 }  // namespace files

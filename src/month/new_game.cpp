@@ -31,6 +31,7 @@ NewGame::NewGame(core::GameState& state, core::Chance& chance, const files::Prog
 void NewGame::Initialize()
 {
     month_.Forget();
+    onBegun();
     core::DrawNeighbours(state_, chance_);
     const std::optional<std::string> lost = TryCreateChiefs();
     core::SetStartValues(state_);

@@ -8,6 +8,7 @@
 #include "ui/screens/frm_main.h"
 #include "ui/screens/frm_month_banner.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ class NewGame {
 public:
     NewGame(core::GameState& state, core::Chance& chance, const files::ProgramFolder& folder, Month& month,
             screens::FrmMain& main, screens::FrmMonthBanner& banner);
+
+    std::function<void()> onBegun;
 
     // Start values of the level in state.Difficulty, the officers and the welcome. Runs whenever the main
     // screen is loaded.

@@ -1,9 +1,8 @@
 #include "persist/saved_game.h"
 
-#include "core/numbers.h"
 #include "persist/record_errors.h"
+#include "persist/record_values.h"
 
-#include <cmath>
 #include <limits>
 
 namespace persist {
@@ -93,43 +92,6 @@ std::vector<core::Element> ListElements()
         }
     }
     return elements;
-}
-
-std::string Record(const core::Value& value)
-{
-    if (const auto* number = std::get_if<std::int64_t>(&value)) {
-        return core::Digits(*number);
-    }
-    if (const auto* fraction = std::get_if<float>(&value)) {
-        return files::Number(*fraction);
-    }
-    if (const auto* text = std::get_if<std::string>(&value)) {
-        return files::Text(*text);
-    }
-    return {};  // an empty cell
-}
-
-// A number may be written in any way, 3 also as 3.0 or 3e0. None when it is neither number nor text.
-std::optional<core::Value> ValueOf(const files::Item& item)
-{
-    constexpr double kExact = 9007199254740992.0;  // up to here every whole double is that number
-    if (item.quoted) {
-        return item.text;
-    }
-    if (item.text.empty()) {
-        return std::monostate{};
-    }
-    if (const std::optional<std::int64_t> number = files::AsInteger(item)) {
-        return *number;
-    }
-    const std::optional<double> fraction = files::AsDouble(item);
-    if (fraction && std::abs(*fraction) <= kExact && std::trunc(*fraction) == *fraction) {
-        return static_cast<std::int64_t>(*fraction);
-    }
-    if (const std::optional<float> single = files::AsFloat(item)) {
-        return *single;
-    }
-    return std::nullopt;
 }
 
 }  // namespace

@@ -1,17 +1,8 @@
 #include "shell/figures.h"
 
-#include <algorithm>
-#include <array>
+#include "core/names.h"
 
 namespace shell {
-
-namespace {
-
-// By core::Level; what went beyond it can only have been hard.
-constexpr core::PerLevel<std::string_view> kLevels =
-    std::to_array<std::string_view>({"Easy", "Normal", "Hard"});
-
-}  // namespace
 
 void ShowFigures(screens::FiguresForm& sheet, const core::GameState& state, const core::NumberFormat& format,
                  std::string_view score)
@@ -22,7 +13,7 @@ void ShowFigures(screens::FiguresForm& sheet, const core::GameState& state, cons
     sheet.lblRev.SetText(core::Digits(state.Revolutions));
     sheet.lblVictims.SetText(format.Amount(std::int64_t{state.Victims}));
     sheet.lblScore.SetText(score);
-    sheet.lblLevel.SetText(kLevels[core::LevelIndex(state.Difficulty)]);
+    sheet.lblLevel.SetText(core::kLevelNames[core::LevelIndex(state.Difficulty)]);
 }
 
 }  // namespace shell

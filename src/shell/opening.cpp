@@ -78,6 +78,7 @@ void Opening::ShowStart()
     screens_.frmStart.Load();
     screens_.frmStart.Label3.SetText("");
     screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
+    onStartShown();
     screens_.frmStart.Show();
 }
 

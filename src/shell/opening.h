@@ -32,6 +32,8 @@ public:
 
     std::function<void()> loadGame;  // "Load Game": straight to the archive
 
+    std::function<void()> onStartShown;  // what else the start screen offers
+
     std::function<void()> settings;  // "Settings": the player's own sheet
 
     void ShowTitle();

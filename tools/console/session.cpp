@@ -80,6 +80,7 @@ std::span<const Session::Request> Session::Requests()
         Request{"skip", When::WhileRunning, &Session::Skip},
         Request{"call", When::WhileRunning, &Session::Call},
         Request{"set", When::WhileRunning, &Session::Set},
+        Request{"autosave", When::WhileRunning, &Session::Autosave},
         Request{"narration", When::WhileRunning, &Session::Narration},
         Request{"seed", When::WhileRunning, &Session::Seed},
         Request{"draws", When::WhileRunning, &Session::Draws},
@@ -165,6 +166,16 @@ core::Element Session::TakeElement(Words& words)
         throw Refused("there is no field " + name);
     }
     return *element;
+}
+
+bool Session::TakeOnOff(Words& words, std::string_view what)
+{
+    const std::string state = words.Name("on or off");
+    words.End();
+    if (state != "on" && state != "off") {
+        throw Refused(std::string(what) + " is on or off, not " + state);
+    }
+    return state == "on";
 }
 
 // What changes the game -----------------------------------------------------------------------------------------
@@ -272,14 +283,14 @@ void Session::Set(Words& words, Json& /*reply*/)
     Desktop().Touch();
 }
 
+void Session::Autosave(Words& words, Json& /*reply*/)
+{
+    run_->game.Autosave(TakeOnOff(words, "autosave"));
+}
+
 void Session::Narration(Words& words, Json& /*reply*/)
 {
-    const std::string state = words.Name("on or off");
-    words.End();
-    if (state != "on" && state != "off") {
-        throw Refused("narration is on or off, not " + state);
-    }
-    run_->game.GetNarrator().Switch(state == "on");
+    run_->game.GetNarrator().Switch(TakeOnOff(words, "narration"));
 }
 
 void Session::Seed(Words& words, Json& /*reply*/)

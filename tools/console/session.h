@@ -58,6 +58,7 @@ private:
     void Demand(When when) const;
     ui::Desktop& Desktop() { return run_->game.GetDesktop(); }
     Target TakeTarget(Words& words);
+    static bool TakeOnOff(Words& words, std::string_view what);
     static core::Element TakeElement(Words& words);
 
     void Start(Words& words, Json& reply);
@@ -69,6 +70,7 @@ private:
     void Skip(Words& words, Json& reply);
     void Call(Words& words, Json& reply);
     void Set(Words& words, Json& reply);
+    void Autosave(Words& words, Json& reply);
     void Narration(Words& words, Json& reply);
     void Seed(Words& words, Json& reply);
     void Draws(Words& words, Json& reply);

@@ -16,6 +16,7 @@ int main()
     static platform::PageHost host(folder);
     static Game game(host, folder, core::Chance(timeOfDay), core::NumberFormat::OfUser(),
                      std::make_unique<platform::KeptFiles>());
+    game.Autosave(true);
     game.Start();
     platform::Start(game.GetDesktop(), host, game.Folder());
     return 0;

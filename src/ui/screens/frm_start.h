@@ -1,4 +1,5 @@
-// frmStart: the start screen. The palace at night, and a paper panel with five buttons.
+// frmStart: the start screen. The palace at night, and a paper panel with five buttons; at the left the game that can
+// be gone on with, where there is one, and the settings.
 #pragma once
 
 #include "ui/look/look.h"
@@ -31,7 +32,10 @@ struct FrmStart : ui::Form {
     ui::CommandButton Command2{*this, "Command2", {568, 329, 180, 38}, "Level Normal", look::kButton};
     ui::CommandButton Command4{*this, "Command4", {568, 377, 180, 38}, "Load Game", look::kButton};
     ui::CommandButton Command5{*this, "Command5", {568, 425, 180, 38}, "How To Play", look::kButton};
+    ui::CommandButton cmdContinue{*this, "cmdContinue", {24, 456, 320, 38}, "Continue", look::kButton, {.visible = false}};
     ui::CommandButton Command3{*this, "Command3", {568, 473, 180, 38}, "Quit Game", look::kDangerButton};
+    // Whose game it is, its month and its level.
+    ui::Label lblContinue{*this, "lblContinue", {24, 500, 320, 36}, "", look::kPlate, {.visible = false}};
     ui::CommandButton cmdSettings{*this, "cmdSettings", {24, 548, 150, 36}, "Settings", look::kButton};
     // Where the manual lies, or that it does not.
     ui::Label Label3{*this, "Label3", {400, 544, 388, 52}, "", look::kAside};
