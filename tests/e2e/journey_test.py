@@ -31,6 +31,28 @@ class Journey(stage.Case):
         self.end_month(3, "frmShow2", game, console)
         self.assertEqual(game.said(), "")
 
+    # The light goes out after the first month; the next run of the program begins with its end.
+    def test_killed_and_continued(self):
+        game, console = self.open_start(self.x, SEED)
+        console.ask("autosave on")
+        self.both_click(game, console, "frmStart.Command1")
+        self.give_name(game, console)
+        self.end_month(2, "frmNewspaper", game, console)
+        self.both_press("Return", game, console)
+        self.until_shows(game, console, "the main screen again")
+        self.both_click(game, console, NEXT_MONTH)
+        game.process.kill()
+        game.process.wait()
+
+        console.ask("start", "autosave on")
+        game = self.game(self.x, SEED)
+        self.until_shows(game, console, "the title again")
+        self.leave_title(self.x, game, console)
+        self.both_click(game, console, "frmStart.cmdContinue")
+        self.assertEqual(console.ask("get MonthsInPower")["value"], 2)
+        self.until_shows(game, console, "the office as it was")
+        self.assertEqual(game.said(), "")
+
     def give_name(self, game, console):
         game.hands("type", "Jos")
         game.hands("key", "dead_acute", "e", "space", "Q")

@@ -13,6 +13,7 @@ int main(int count, char** words)
     core::Chance chance;
     chance.Seed(count > 1 ? std::stoull(words[1]) : 0);
     Game game(host, files::ProgramFolder::Find(), chance);
+    game.Autosave(true);
     game.Start();
     return platform::Run(game.GetDesktop(), game.GetNarrator(), host, game.Folder());
 }

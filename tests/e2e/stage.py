@@ -305,12 +305,15 @@ class Case(unittest.TestCase):
     def open_start(self, server, seed=None):
         """The start screen, in a window again on a server that has no mode for the game."""
         game, console = self.open_title(server, seed)
+        self.leave_title(server, game, console)
+        return game, console
+
+    def leave_title(self, server, game, console):
         game.click(TITLE)
         console.ask("click frmlogo")
         self.until("the game fills the screen", lambda: game.place() == (0, 0, *server.size()))
         game.hands("key", "F11")
         self.until_shows(game, console, "the start screen")
-        return game, console
 
     def open_main(self, server):
         """The main screen with its welcome."""
