@@ -97,15 +97,29 @@ void Game::WireShell()
 {
     opening_.loadGame = [this] { savedGames_.OpenFromStart(); };
     opening_.onStartShown = [this] { continuation_.Offer(); };
-    savedGames_.onLoaded = [this] {
+    savedGames_.onLoaded = [this](std::string_view file) {
         month_.Forget();
         continuation_.Begin();
+        chronicle_.Take(file);
+    };
+    savedGames_.onSaved = [this](std::string_view file) {
+        if (continuation_.Keeps()) {
+            chronicle_.Keep(file);
+        }
     };
     continuation_.beginGame = [this] { opening_.BeginGame(); };
-    continuation_.onResumed = [this] { month_.Forget(); };
-    newGame_.onBegun = [this] { continuation_.Begin(); };
+    continuation_.onResumed = [this](std::string_view file) {
+        month_.Forget();
+        chronicle_.Take(file);
+    };
+    continuation_.onKept = [this](std::string_view file) { chronicle_.Keep(file); };
+    newGame_.onBegun = [this] {
+        continuation_.Begin();
+        chronicle_.Begin();
+    };
     month_.OnClosed([this](const month::Closed& closed) {
         if (!closed.gameOver) {
+            chronicle_.MonthClosed(closed.notes);
             continuation_.MonthClosed();
         }
     });
@@ -181,6 +195,7 @@ void Game::WireOffice()
         slip_.Refresh();
         strip_.Refresh();
     };
+    options_.chronicle = [this] { chronicle_.Open(); };
     options_.settings = [this] { settings_.Open(); };
     opening_.settings = [this] { settings_.Open(); };
     settings_.onChanged = [this](const office::Settings& settings) { CarryOut(settings); };

@@ -32,6 +32,7 @@
 #include "month/month.h"
 #include "month/new_game.h"
 #include "office/backdrop.h"
+#include "office/chronicle.h"
 #include "office/farewell.h"
 #include "office/settings_sheet.h"
 #include "office/slip.h"
@@ -82,6 +83,7 @@ public:
     const files::ProgramFolder& Folder() const { return folder_; }
     // Whether closed months are kept for "Continue"; off at first.
     void Autosave(bool on) { continuation_.Keep(on); }
+    const persist::Chronicle& GetChronicle() const { return chronicle_.Rows(); }
     office::SettingsSheet& GetSettings() { return settings_; }
     // Silent until it is switched on and given a voice.
     reading::Narrator& GetNarrator() { return narrator_; }
@@ -203,6 +205,7 @@ private:
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
     office::Slip slip_{state_, journal_, screens_, desktop_, format_};
+    office::ChronicleSheet chronicle_{state_, screens_.frmChronicle, sound_, written_, format_};
     office::SettingsSheet settings_{screens_.frmSettings, sound_};
     office::Farewell farewell_{state_, journal_, screens_.frmFarewell, sound_, format_};
 

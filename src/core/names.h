@@ -15,7 +15,8 @@ inline constexpr PerGroupAndPersonalArmy<std::string_view> kGroupNames{
 };
 
 // By Level; what went beyond the last can only have been hard.
-inline constexpr PerLevel<std::string_view> kLevelNames = std::to_array<std::string_view>({"Easy", "Normal", "Hard"});
+inline constexpr PerLevel<std::string_view> kLevelNames =
+    std::to_array<std::string_view>({"Easy", "Normal", "Hard"});
 
 // By War - 1.
 inline constexpr std::size_t kNeighbours = 3;

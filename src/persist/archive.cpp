@@ -1,6 +1,7 @@
 #include "persist/archive.h"
 
 #include "files/checksum.h"
+#include "persist/chronicle.h"
 #include "persist/record_errors.h"
 
 #include <utility>
@@ -11,12 +12,12 @@ namespace {
 
 constexpr std::string_view kNames = "Save/names";
 
+}  // namespace
+
 std::string SlotFile(std::int64_t slot)
 {
     return "Save/Save" + std::to_string(slot);
 }
-
-}  // namespace
 
 files::Result<bool> Archive::Used(std::int64_t slot) const
 {
@@ -129,6 +130,7 @@ std::vector<std::string> Archive::Files()
     for (std::int64_t slot = 1; slot <= kSlots; ++slot) {
         names.push_back(SlotFile(slot));
         names.push_back(files::SumFile(names.back()));
+        names.push_back(ChronicleFile(SlotFile(slot)));
     }
     return names;
 }

@@ -18,6 +18,8 @@ namespace persist {
 inline constexpr std::int64_t kSlots = 5;
 using SlotNames = std::array<std::string, kSlots>;
 
+std::string SlotFile(std::int64_t slot);  // "Save/Save1"
+
 class Archive {
 public:
     explicit Archive(const files::WrittenFiles& files) : files_(files) {}

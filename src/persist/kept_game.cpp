@@ -2,6 +2,7 @@
 
 #include "core/fields.h"
 #include "files/checksum.h"
+#include "persist/chronicle.h"
 #include "persist/record_errors.h"
 #include "persist/record_values.h"
 
@@ -13,7 +14,6 @@ namespace persist {
 namespace {
 
 constexpr int kExactDigits = 9;  // that many tell every single fraction from its neighbours
-constexpr std::string_view kFile = "Save/Continue";
 constexpr auto kOfTheProgram = std::to_array<std::string_view>({"HallShown", "DisplayModeSet", "SaveSlot"});
 
 const std::vector<core::Element>& KeptElements()
@@ -55,7 +55,8 @@ files::Result<core::GameState> ReadWholeGame(const std::vector<files::Item>& ite
         }
         const std::optional<core::Value> value = ValueOf(item);
         const std::optional<std::string> expected =
-            value ? elements[i].Set(read, *value) : std::optional<std::string>("a number or a text in quotes");
+            value ? elements[i].Set(read, *value)
+                  : std::optional<std::string>("a number or a text in quotes");
         if (expected) {
             return Unexpected(file, item, expectedName, *expected);
         }
@@ -68,18 +69,18 @@ files::Result<core::GameState> ReadWholeGame(const std::vector<files::Item>& ite
 
 files::Result<std::optional<core::GameState>> KeptGame::Read(const core::GameState& state) const
 {
-    const files::Result<bool> there = files_.Has(kFile);
+    const files::Result<bool> there = files_.Has(kKeptGame);
     if (!there) {
         return there.Error();
     }
     if (!*there) {
         return std::optional<core::GameState>();
     }
-    const files::Result<std::vector<files::Item>> items = files_.Read(kFile);
+    const files::Result<std::vector<files::Item>> items = files_.Read(kKeptGame);
     if (!items) {
         return items.Error();
     }
-    const files::Result<core::GameState> game = ReadWholeGame(*items, kFile, state);
+    const files::Result<core::GameState> game = ReadWholeGame(*items, kKeptGame, state);
     if (!game) {
         return game.Error();
     }
@@ -88,35 +89,39 @@ files::Result<std::optional<core::GameState>> KeptGame::Read(const core::GameSta
 
 bool KeptGame::IsFree() const
 {
-    const files::Result<bool> there = files_.Has(kFile);
+    const files::Result<bool> there = files_.Has(kKeptGame);
     return there && !*there;
 }
 
 bool KeptGame::Altered() const
 {
-    const files::Result<std::string> content = files_.ReadWhole(kFile);
-    return content && !files::Agrees(files_, kFile, *content);
+    const files::Result<std::string> content = files_.ReadWhole(kKeptGame);
+    return content && !files::Agrees(files_, kKeptGame, *content);
 }
 
 files::Failure KeptGame::Write(const core::GameState& state) const
 {
-    const files::Result<files::FolderLock> lock = files_.Lock(kFile);
-    return lock ? files::ReplaceChecked(files_, *lock, kFile, WriteWholeGame(state)) : lock.Error();
+    const files::Result<files::FolderLock> lock = files_.Lock(kKeptGame);
+    return lock ? files::ReplaceChecked(files_, *lock, kKeptGame, WriteWholeGame(state)) : lock.Error();
 }
 
 files::Failure KeptGame::Remove() const
 {
-    const files::Result<files::FolderLock> lock = files_.Lock(kFile);
+    const files::Result<files::FolderLock> lock = files_.Lock(kKeptGame);
     if (!lock) {
         return lock.Error();
     }
-    const files::Failure failure = files_.Remove(*lock, kFile);
-    return failure ? failure : files_.Remove(*lock, files::SumFile(kFile));
+    for (const std::string& file : Files()) {
+        if (files::Failure failure = files_.Remove(*lock, file)) {
+            return failure;
+        }
+    }
+    return std::nullopt;
 }
 
 std::vector<std::string> KeptGame::Files()
 {
-    return {std::string(kFile), files::SumFile(kFile)};
+    return {std::string(kKeptGame), files::SumFile(kKeptGame), ChronicleFile(kKeptGame)};
 }
 
 }  // namespace persist

@@ -13,6 +13,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace persist {
@@ -21,6 +22,8 @@ std::string WriteWholeGame(const core::GameState& state);
 // What belongs to the program and not to a game is taken from `state`.
 files::Result<core::GameState> ReadWholeGame(const std::vector<files::Item>& items, std::string_view file,
                                              const core::GameState& state);
+
+inline constexpr std::string_view kKeptGame = "Save/Continue";
 
 class KeptGame {
 public:

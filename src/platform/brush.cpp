@@ -1,5 +1,6 @@
 #include "platform/brush.h"
 
+#include "platform/event_marks.h"
 #include "platform/text_layout.h"
 #include "ui/look/look.h"
 
@@ -135,6 +136,9 @@ void PaintMark(Brush& brush, ui::Mark mark, PointF middle, double scale, ui::Col
     case ui::Mark::Question:
         canvas.Rounded({x - 6, y - 7, 12, 14}, 2, Ink::Flat(look::kQuestion));
         PaintLine(brush, "?", ui::Face::CaptionBold, 13, ui::Align::Center, {x, y + 4.5}, look::kSecret);
+        break;
+    default:
+        PaintEventMark(canvas, mark, middle, color);
         break;
     }
 }

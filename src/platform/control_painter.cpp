@@ -1,6 +1,7 @@
 #include "platform/control_painter.h"
 
 #include "platform/button_look.h"
+#include "platform/graph_painter.h"
 #include "platform/message_band.h"
 #include "platform/text_layout.h"
 #include "ui/look/look.h"
@@ -77,6 +78,11 @@ void PaintButton(Brush& brush, const Control& control, const ControlLight& light
         if (control.Text() != "-") {
             brush.canvas.Fill({x - 1.25, y - 5, 2.5, 10}, look.text);
         }
+        return;
+    }
+    if (control.Style().ornament == Ornament::ArrowButton) {
+        PaintFace(brush.canvas, box, look, 4);
+        PaintMark(brush, control.Now().mark, {face.MiddleX(), face.MiddleY()}, 1, look.text);
         return;
     }
     PaintFace(brush.canvas, box, look, 5);
@@ -317,6 +323,9 @@ void PaintControl(Brush& brush, const ui::Control& control, const ControlLight& 
         break;
     case Control::Kind::Shape:
         PaintShape(brush, control);
+        break;
+    case Control::Kind::Graph:
+        PaintGraph(brush, static_cast<const ui::Graph&>(control));
         break;
     }
 }

@@ -101,7 +101,7 @@ void Continuation::Resume()
     state_.SaveSlot = ofTheProgram.SaveSlot;
     Begin();
     ours_ = true;
-    onResumed();
+    onResumed(persist::kKeptGame);
     month::Say(screens_.frmMonthBanner, kWelcomeBack);
 }
 
@@ -124,7 +124,10 @@ void Continuation::MonthClosed()
         return;
     }
     const files::Failure failure = kept_.Write(state_);
-    ours_ = ours_ || !failure;
+    if (!failure) {
+        ours_ = true;
+        onKept(persist::kKeptGame);
+    }
     Tell(failure);
 }
 

@@ -27,10 +27,12 @@ public:
         screens::FrmStart& frmStart;
         screens::FrmMonthBanner& frmMonthBanner;
     };
-    Continuation(core::GameState& state, Screens screens, media::Sound& sound, const files::WrittenFiles& files);
+    Continuation(core::GameState& state, Screens screens, media::Sound& sound,
+                 const files::WrittenFiles& files);
 
-    std::function<void()> beginGame;  // what a game needs before its record is put in
-    std::function<void()> onResumed;  // the record is that of the kept game
+    std::function<void()> beginGame;                       // what a game needs before its record is put in
+    std::function<void(std::string_view file)> onResumed;  // the record is that of the kept game
+    std::function<void(std::string_view file)> onKept;     // what lies beside it is to be kept too
 
     void Keep(bool keep);
     bool Keeps() const { return keeps_; }
@@ -51,10 +53,10 @@ private:
     media::Sound& sound_;
     persist::KeptGame kept_;
     bool keeps_ = false;
-    bool ours_ = false;  // whether what is kept is the game being played
-    int closed_ = 0;     // months of this game
-    bool told_ = false;  // that it could not be kept
-    bool asked_ = false; // whether the player knows that somebody has written in it
+    bool ours_ = false;   // whether what is kept is the game being played
+    int closed_ = 0;      // months of this game
+    bool told_ = false;   // that it could not be kept
+    bool asked_ = false;  // whether the player knows that somebody has written in it
 };
 
 }  // namespace shell

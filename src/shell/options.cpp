@@ -21,14 +21,21 @@ Options::Options(core::GameState& state, Screens screens, media::Sound& sound, m
     screens.frmOptions.onLoad = [this] { NameHistory(); };
     screens.frmOptions.Label5.OnClick([this](int index) { Label5_Click(index); });
     screens.frmOptions.Label5.OnHover([this](int index) { Label5_MouseMove(index); });
-    screens.frmOptions.lblSettings.onClick = [this] {
+    Bind(screens.frmOptions.lblChronicle, chronicle);
+    Bind(screens.frmOptions.lblSettings, settings);
+}
+
+// A card that the game added of its own.
+void Options::Bind(ui::Label& card, std::function<void()>& open)
+{
+    card.onClick = [this, &open] {
         sound_.SoundClick();
         screens_.frmOptions.Hide();
-        settings();
+        open();
     };
-    screens.frmOptions.lblSettings.onHover = [this] {
+    card.onHover = [this, &card] {
         Label5_MouseMove(screens::kOptionItems);
-        LightSettings(true);
+        Light(card, true);
     };
 }
 
@@ -45,18 +52,18 @@ void Options::NameHistory()
     }
 }
 
-void Options::LightSettings(bool lit)
+void Options::Light(ui::Label& card, bool lit)
 {
-    screens_.frmOptions.lblSettings.SetBack(lit ? look::kBlack : look::kYellow);
-    screens_.frmOptions.lblSettings.SetFore(lit ? look::kWhite : look::kBlack);
+    card.SetBack(lit ? look::kBlack : look::kYellow);
+    card.SetFore(lit ? look::kWhite : look::kBlack);
 }
 
 void Options::Label5_MouseMove(int index)
 {
-    LightSettings(false);
+    Light(screens_.frmOptions.lblChronicle, false);
+    Light(screens_.frmOptions.lblSettings, false);
     for (int i = 0; i < screens::kOptionItems; ++i) {
-        screens_.frmOptions.Label5[i].SetBack(i == index ? look::kBlack : look::kYellow);
-        screens_.frmOptions.Label5[i].SetFore(i == index ? look::kWhite : look::kBlack);
+        Light(screens_.frmOptions.Label5[i], i == index);
     }
 }
 

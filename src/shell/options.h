@@ -28,7 +28,8 @@ public:
             const core::NumberFormat& format, Display& display, Manual& manual, SavedGames& savedGames,
             HallScreen& hall);
 
-    std::function<void()> settings;  // "Settings": the player's own sheet
+    std::function<void()> chronicle;  // "Chronicle": the presidency month by month
+    std::function<void()> settings;   // "Settings": the player's own sheet
 
     void Open();
     void Label5_Click(int index);
@@ -36,7 +37,8 @@ public:
 
 private:
     void NameHistory();
-    void LightSettings(bool lit);
+    void Bind(ui::Label& card, std::function<void()>& open);
+    static void Light(ui::Label& card, bool lit);
     void ShowHistory();
 
     core::GameState& state_;

@@ -262,6 +262,8 @@ bool SavedGames::WriteGame()
     const files::Failure failure = used ? archive_.Save(state_.SaveSlot, state_) : used.Error();
     if (failure) {
         month::Say(screens_.frmMonthBanner, NotSaved(*failure));
+    } else {
+        onSaved(persist::SlotFile(state_.SaveSlot));
     }
     return !failure;
 }
@@ -315,7 +317,7 @@ void SavedGames::Load()
         return;
     }
     state_ = *loaded;
-    onLoaded();
+    onLoaded(persist::SlotFile(state_.SaveSlot));
     ShowFigures(screens_.frmGameLoaded, state_, format_, format_.Amount(std::int64_t{state_.Score}));
     screens_.frmGameLoaded.Show();
 }

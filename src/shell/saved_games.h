@@ -28,7 +28,9 @@ public:
     SavedGames(core::GameState& state, ui::Desktop& desktop, Screens screens, media::Sound& sound,
                const files::WrittenFiles& files, const core::NumberFormat& format);
 
-    std::function<void()> onLoaded;  // another game goes on from here: its month is not the one that was left
+    // Another game goes on from here: its month is not the one that was left. With the file it came from.
+    std::function<void(std::string_view file)> onLoaded;
+    std::function<void(std::string_view file)> onSaved;
     std::function<void()> beginGame;    // what a game needs that is loaded from the start screen
     std::function<void()> backToStart;  // where "Cancel" leads from there
 

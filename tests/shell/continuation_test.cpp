@@ -146,9 +146,11 @@ TEST(WholeGame, ComesBackValueByValue)
         for (const core::Element& element : core::AllElements()) {
             const core::Value now = element.Get(game);
             const auto number = static_cast<std::int64_t>(random() % 3);
-            element.Set(game, std::holds_alternative<std::string>(now) ? core::Value("Ñ \"\r\n" + std::to_string(number))
-                              : std::holds_alternative<float>(now)     ? core::Value(static_cast<float>(random()) / 7.0F)
-                                                                       : core::Value(number));
+            element.Set(game, std::holds_alternative<std::string>(now)
+                                  ? core::Value("Ñ \"\r\n" + std::to_string(number))
+                              : std::holds_alternative<float>(now)
+                                  ? core::Value(static_cast<float>(random()) / 7.0F)
+                                  : core::Value(number));
         }
         const core::GameState ofTheProgram{
             .HallShown = game.HallShown, .DisplayModeSet = game.DisplayModeSet, .SaveSlot = game.SaveSlot};

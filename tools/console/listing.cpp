@@ -9,8 +9,8 @@ namespace console {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> kKinds{"Label",   "CommandButton", "OptionButton",
-                                                 "TextBox", "Picture",       "Shape"};  // by Control::Kind
+constexpr std::array<std::string_view, 7> kKinds{"Label",   "CommandButton", "OptionButton", "TextBox",
+                                                 "Picture", "Shape",         "Graph"};  // by Control::Kind
 
 // A whole number is written without a fraction: 7, not 7.0.
 template <class T> Json Number(T value)

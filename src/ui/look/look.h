@@ -127,6 +127,10 @@ inline constexpr TextStyle kNote{
     .face = Face::Typed, .sizes = {{{16, 24}, {14, 20}, {13, 18}}}, .fore = kInk, .wrap = true,
     .top = true};
 
+// A line of a record that goes on.
+inline constexpr TextStyle kLogLine{
+    .face = Face::Typed, .sizes = {{{15, 20}, {14, 18}, {13, 16}}}, .fore = kInk};
+
 inline constexpr TextStyle kNoteTitle{
     .face = Face::Heading, .sizes = {{{22, 26}, {19, 23}}}, .fore = kHeading};
 // What a table is about.
@@ -154,6 +158,9 @@ inline constexpr TextStyle kDangerListButton{
 inline constexpr TextStyle kRateButton{
     .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{15, 20}}}, .fore = kBandText,
     .ornament = Ornament::RateButton};
+inline constexpr TextStyle kArrowButton{
+    .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{15, 20}}}, .fore = kBandText,
+    .ornament = Ornament::ArrowButton};
 inline constexpr TextStyle kOption{.face = Face::Caption, .sizes = {{{16, 26}, {14, 22}}}, .fore = kInk};
 
 inline constexpr TextStyle kPlate{

@@ -52,6 +52,17 @@ constexpr Spoken kTable[] = {
     {"frmSlip",        "A slip from the secretary", "What the month has changed.", kWhole},
     {"frmFarewell",    "The last page of El Faro", "Press Return to put it away.", kWhole},
 
+    {"frmChronicle",   "The chronicle", "Your presidency, month by month."},
+    {"frmChronicle.cmdNewer", "Later months"},
+    {"frmChronicle.cmdOlder", "Earlier months"},
+    {"frmChronicle.lblUnit",  "-"},
+    {"frmChronicle.lblLegend", "-"},
+    {"frmChronicle.lblKey",   "-"},
+    {"frmChronicle.lblHigh",  "-"},
+    {"frmChronicle.lblLow",   "-"},
+    {"frmChronicle.lblSwiss",    "{} dollars"},
+    {"frmChronicle.lblTreasury", "{} dollars"},
+
     {"frmSettings",    "The settings", "A press of a value goes on to the next one."},
     {"frmSettings.cmdLess",     "Quieter"},
     {"frmSettings.cmdMore",     "Louder"},

@@ -24,9 +24,9 @@ enum OptionItem {
     kOptionItems,
 };
 
-// A drawer of the card index: those of Label5, and the settings. They stand 42 apart, and the drawer's front moves
+// A drawer of the card index: those of Label5, the chronicle and the settings. They stand 42 apart, and the drawer's front moves
 // with their number; a card has room at its left to be drawn out by.
-inline constexpr int kCards = kOptionItems + 1;
+inline constexpr int kCards = kOptionItems + 2;
 inline constexpr int kCardsTop = 97;
 inline constexpr int kCardPitch = 42;
 inline constexpr int kDrawerFront = kCardsTop + kCardPitch * kCards + 2;
@@ -66,7 +66,9 @@ struct FrmOptions : ui::Form {
     {}
 
     ui::ControlArray<ui::Label> Label5{*this, "Label5", kOptionRows};
-    ui::Label lblSettings{*this, "lblSettings", OptionPlace(kOptionItems), "Settings", look::kYellowKey,
+    ui::Label lblChronicle{*this, "lblChronicle", OptionPlace(kOptionItems), "Chronicle", look::kYellowKey,
+        {.tabStop = true, .back = look::kYellow}};
+    ui::Label lblSettings{*this, "lblSettings", OptionPlace(kOptionItems + 1), "Settings", look::kYellowKey,
         {.tabStop = true, .back = look::kYellow}};
     ui::Label Label1{*this, "Label1", {334, 440, 208, 114}, "", look::kAside, {.back = look::kBlack}};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.

@@ -10,6 +10,7 @@
 #include "ui/screens/frm_army_c.h"
 #include "ui/screens/frm_bank.h"
 #include "ui/screens/frm_choose.h"
+#include "ui/screens/frm_chronicle.h"
 #include "ui/screens/frm_farewell.h"
 #include "ui/screens/frm_g_rev.h"
 #include "ui/screens/frm_game_loaded.h"
@@ -103,6 +104,7 @@ public:
     FrmSlip frmSlip{stage_};
     FrmFarewell frmFarewell{stage_};
     FrmSettings frmSettings{stage_};
+    FrmChronicle frmChronicle{stage_};
 };
 
 }  // namespace screens

@@ -42,7 +42,7 @@ struct Extras {
 
 class Control {
 public:
-    enum class Kind : std::uint8_t { Label, CommandButton, OptionButton, TextBox, Picture, Shape };
+    enum class Kind : std::uint8_t { Label, CommandButton, OptionButton, TextBox, Picture, Shape, Graph };
 
     // Everything about a control that can change.
     struct State {

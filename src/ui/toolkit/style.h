@@ -41,6 +41,7 @@ enum class Ornament : std::uint8_t {
     Pips,          // a number as filled boxes out of ten
     ListButton,    // a button with its text at the left and a mark before it
     RateButton,    // a small square button whose sign is drawn as bars
+    ArrowButton,   // a small square button with nothing but its sign
     DangerButton,  // a button whose deed cannot be undone
     YellowKey,     // a key of the options menu, inverted under the pointer
     Message,       // a band across the whole screen, over its scene
@@ -61,8 +62,23 @@ struct TextStyle {
 };
 
 // A small sign beside a text, so that nothing is said by colour alone.
-// Blank keeps a sign's room empty.
-enum class Mark : std::uint8_t { None, Up, Down, Star, Dash, Triangle, Disc, Diamond, Question, Blank };
+// Blank keeps a sign's room empty. The last four are a chronicle's: revolt, attempt, war, disaster.
+enum class Mark : std::uint8_t {
+    None,
+    Up,
+    Down,
+    Star,
+    Dash,
+    Triangle,
+    Disc,
+    Diamond,
+    Question,
+    Blank,
+    Flame,
+    Sight,
+    Sabres,
+    Bolt
+};
 
 // One printed thing of a screen that is no control: it takes no click and never changes.
 struct Decor {

@@ -23,7 +23,8 @@ inline bool PaintsText(const ui::Control& control)
 {
     const ui::Control::Kind kind = control.GetKind();
     return kind != ui::Control::Kind::Picture && kind != ui::Control::Kind::Shape &&
-           control.Style().ornament != ui::Ornament::RateButton;
+           kind != ui::Control::Kind::Graph && control.Style().ornament != ui::Ornament::RateButton &&
+           control.Style().ornament != ui::Ornament::ArrowButton;
 }
 
 class ScreenWalk : public testing::Test {
