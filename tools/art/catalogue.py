@@ -40,7 +40,9 @@ class Picture:
         return document(self.width, self.height, self.draw(), self.definitions(), self.title)
 
 
-NEWSPRINT = 32          # three inks and their edges; the grain of the paper needs no more
+NEWSPRINT = 16          # three inks and their edges; the grain of the paper needs no more
+PLAIN = 24              # one ink
+QUIET = 64              # what lies at the edge of the eye
 
 
 def _emblem_and_filters():
@@ -56,9 +58,9 @@ def _screens():
         Picture('title', 'Title picture', 800, 600, poster.title, _emblem_and_filters),
         Picture('start', 'Start screen', 800, 600, poster.start, filters),
         Picture('map', 'Map of Quenvale and its neighbours', country_map.WIDTH, country_map.HEIGHT,
-                country_map.country_map, _map_definitions),
+                country_map.country_map, _map_definitions, colours=QUIET),
         Picture('officer', 'An unknown officer', officer.WIDTH, officer.HEIGHT, officer.unknown_officer),
-        Picture('paper', 'Paper', 800, 600, paper, filters),
+        Picture('paper', 'Paper', 800, 600, paper, filters, colours=PLAIN),
     ]
 
 
@@ -113,7 +115,8 @@ def _office():
     def picture(name, draw, definitions, **more):
         return Picture('office/' + name, 'Office: ' + name, *places[name][2:], draw, definitions, palette=True, **more)
     return [picture('night', office.night, office.definitions), picture('revolt', office.revolt, office.definitions)] + \
-        [picture('%s-%s' % (hour, side), lambda draw=draw, side=side: draw(side), office.definitions)
+        [picture('%s-%s' % (hour, side), lambda draw=draw, side=side: draw(side), office.definitions,
+                 colours=QUIET)
          for hour, draw in (('night', office.beyond), ('revolt', office.beyond_in_revolt)) for side in office.BEYOND] + \
         [picture(name, lambda name=name: office.piece(name), lambda name=name: office.piece_definitions(name), alpha=True)
          for name in office.PIECES]
