@@ -112,13 +112,13 @@ std::string PrintChronicle(const Chronicle& chronicle)
     for (const ChronicleRow& row : chronicle) {
         std::string line;
         for (const std::int64_t* number : NumbersOf(row)) {
-            line += (line.empty() ? "" : ",") + core::Digits(*number);
+            line.append(line.empty() ? "" : ",").append(core::Digits(*number));
         }
         text += line;
         text += files::kLineEnd;
         for (const core::Note& note : row.notes) {
-            text += files::Text(core::NameOf(note.kind)) + "," + files::Text(core::NameOf(note.who)) + "," +
-                    core::Digits(note.amount);
+            text.append(files::Text(core::NameOf(note.kind))).append(",");
+            text.append(files::Text(core::NameOf(note.who))).append(",").append(core::Digits(note.amount));
             text += files::kLineEnd;
         }
     }
