@@ -60,6 +60,9 @@ TEST(Layers, SayWhatTheRecordSays)
         {"nothing saved", {{"SwissBank", 0}}, Aspect::Envelopes, 0},
         {"a dollar", {{"SwissBank", 1}}, Aspect::Envelopes, 1},
         {"not more than 5 million", {{"SwissBank", 5'000'000}}, Aspect::Envelopes, 1},
+        {"a dollar above", {{"SwissBank", 5'000'001}}, Aspect::Envelopes, 2},
+        {"above 20 million", {{"SwissBank", 20'000'001}}, Aspect::Envelopes, 3},
+        {"above 50 million", {{"SwissBank", 50'000'001}}, Aspect::Envelopes, 4},
         {"all that fits", {{"SwissBank", 2147483647}}, Aspect::Envelopes, 5},
         {"less than nothing", {{"SwissBank", -2147483648LL}}, Aspect::Envelopes, 0},
         {"a small guard", {{"Population[PersonalArmy]", 1499}}, Aspect::Guards, 1},
@@ -87,6 +90,51 @@ TEST(Layers, SayWhatTheRecordSays)
         test::SetFields(state, c.set);
         EXPECT_EQ(office::Look(state)[static_cast<std::size_t>(c.aspect)], c.step);
     }
+}
+
+// What each step of an aspect lights; steps are divided by |.
+TEST(Layers, AreLitStepByStep)
+{
+    const struct {
+        Aspect aspect;
+        const char* steps;
+    } cases[] = {
+        {Aspect::Always, "fence"},
+        {Aspect::War, "|searchlights warships"},
+        {Aspect::Guerrillas, "|fires-weak|fires-strong"},
+        {Aspect::NavalBase, "|naval-lights"},
+        {Aspect::AirBase, "|air-lights"},
+        {Aspect::Islands, "|sold-1|sold-1 sold-2|sold-1 sold-2 sold-3"},
+        {Aspect::Prisoners, "|prison-some|prison-full"},
+        {Aspect::Treasury, "city-poor|city-rich"},
+        {Aspect::Fog, "|fog"},
+        {Aspect::Square, "|crowd-some|crowd-full|mob-some|mob-full torches"},
+        {Aspect::Angriest, "|banner-workers|banner-peasants|banner-businessmen|banner-industrialists|"
+                           "banner-landowners|banner-army|banner-police"},
+        {Aspect::Army, "|sentries-content|sentries-sullen"},
+        {Aspect::Helicopter, "|helicopter"},
+        {Aspect::Age, "portrait-0|portrait-1|portrait-2|portrait-3"},
+        {Aspect::Guards, "|guards-1|guards-2"},
+        {Aspect::Envelopes, "|envelopes-1|envelopes-2|envelopes-3|envelopes-4|envelopes-5"},
+    };
+    std::size_t found = 0;
+    for (const auto& each : cases) {
+        std::string steps;
+        for (int step = 0; step <= 7; ++step) {
+            std::string lit;
+            for (const office::Layer& layer : office::Layers()) {
+                if (layer.aspect == each.aspect && layer.from <= step && step <= layer.to) {
+                    const std::string file(layer.picture);
+                    lit += (lit.empty() ? "" : " ") + file.substr(14, file.size() - 18);
+                    found += step == layer.from ? 1 : 0;
+                }
+            }
+            steps += (step == 0 ? "" : "|") + lit;
+        }
+        steps.erase(steps.find_last_not_of('|') + 1);
+        EXPECT_EQ(steps, each.steps);
+    }
+    EXPECT_EQ(found, office::Layers().size());
 }
 
 // Places, sizes and files are written down apart from each other.

@@ -44,6 +44,31 @@ TEST(SlipRules, TellTheLatestTwoThingsInALineEach)
                 ElementsAre(testing::StartsWith("The hurricane"),
                             "The guerrillas cost $1,500,000. They gave no receipt."));
 
+    const struct {
+        core::Note note;
+        std::int64_t answer;
+        const char* word;
+    } sentences[] = {
+        {{Kind::Request, Who::Workers, 2, 3}, 1, "got what they asked for"},
+        {{Kind::Request, Who::Workers, 2, 3}, 0, "were refused. They took it standing"},
+        {{Kind::Demand, Who::Americans, 4, 3}, 1, "are content"},
+        {{Kind::Demand, Who::Americans, 4, 3}, 0, "left his hat"},
+        {{Kind::Claim, Who::Workers, 9, 3}, 1, "were paid"},
+        {{Kind::Claim, Who::Workers, 9, 3}, 0, "were not paid"},
+        {{Kind::Aid, Who::Americans, 0, 3}, 0, "did not pay"},
+        {{Kind::Aid, Who::Americans, 5, 3}, 0, "Americans paid"},
+        {{Kind::Disaster, {}, 1, 3}, 0, "drought"},
+        {{Kind::Disaster, {}, 3, 3}, 0, "earth"},
+        {{Kind::War, Who::Feraz, 1, 3}, 0, "Feraz is beaten"},
+        {{Kind::War, Who::Feraz, 0, 3}, 0, "Feraz has won"},
+        {{Kind::Battle, {}, 1, 3}, 0, "battle is won"},
+        {{Kind::Coup, Who::Army, 0, 3}, 0, "chief of the Army"},
+    };
+    for (const auto& each : sentences) {
+        EXPECT_THAT(told({each.note, {Kind::Answer, each.note.who, each.answer, 3}}).back(),
+                    testing::HasSubstr(each.word));
+    }
+
     // Any note, about anybody, however much: at most two lines that fit the slip.
     for (int kind = 0; kind <= static_cast<int>(Kind::End); ++kind) {
         for (int who = 0; who <= static_cast<int>(Who::Americans); ++who) {
