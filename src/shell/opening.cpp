@@ -8,15 +8,16 @@ namespace shell {
 
 namespace {
 
-// Where the level button leads from each level, and what it says there.
+// Where the level button leads from each level, what it says there, and what the level changes.
 struct LevelStep {
     core::Level next;
     std::string_view caption;
+    std::string_view changes;
 };
 constexpr core::PerLevel<LevelStep> kLevels = std::to_array<LevelStep>({
-    {core::kNormal, "Level Easy"},
-    {core::kHard, "Level Normal"},
-    {core::kEasy, "Level Hard"},
+    {core::kNormal, "Level Easy", "Smaller bills, milder revolts. Your score as it is."},
+    {core::kHard, "Level Normal", "The usual bills and revolts. Your score x 1.2."},
+    {core::kEasy, "Level Hard", "Larger bills, fiercer revolts. Your score x 1.4."},
 });
 
 // A level that there is none of, from a broken saved game, counts as the hardest.
@@ -77,7 +78,7 @@ void Opening::ShowStart()
 {
     screens_.frmStart.Load();
     screens_.frmStart.Label3.SetText("");
-    screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
+    ShowLevel();
     onStartShown();
     screens_.frmStart.Show();
 }
@@ -86,7 +87,13 @@ void Opening::StepLevel()
 {
     sound_.SoundClick();
     state_.Difficulty = StepFrom(state_.Difficulty).next;
+    ShowLevel();
+}
+
+void Opening::ShowLevel()
+{
     screens_.frmStart.Command2.SetText(StepFrom(state_.Difficulty).caption);
+    screens_.frmStart.lblLevel.SetText(StepFrom(state_.Difficulty).changes);
 }
 
 void Opening::StartGame()

@@ -47,6 +47,7 @@ public:
 private:
     void LeaveTitle();
     void StepLevel();
+    void ShowLevel();
     void Quit();
     void TakeName();
 

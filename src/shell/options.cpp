@@ -109,6 +109,8 @@ void Options::ShowHistory()
     const persist::HallEntry entry = persist::EntryOf(state_);
     const double score = persist::LevelFactor(entry.level) * static_cast<double>(persist::PlainScore(entry));
     ShowFigures(screens_.frmHistory, state_, format_, persist::ShownScore(score, format_));
+    screens_.frmHistory.lblWorth[screens::kWorthLevel].SetText(
+        "all of it x " + format_.OneDecimal(persist::LevelFactor(entry.level)));
     screens_.frmHistory.Show();
 }
 

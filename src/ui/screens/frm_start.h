@@ -37,6 +37,8 @@ struct FrmStart : ui::Form {
     // Whose game it is, its month and its level.
     ui::Label lblContinue{*this, "lblContinue", {24, 500, 320, 36}, "", look::kPlate, {.visible = false}};
     ui::CommandButton cmdSettings{*this, "cmdSettings", {24, 548, 150, 36}, "Settings", look::kButton};
+    // What the level changes.
+    ui::Label lblLevel{*this, "lblLevel", {184, 544, 206, 44}, "", look::kAside};
     // Where the manual lies, or that it does not.
     ui::Label Label3{*this, "Label3", {400, 544, 388, 52}, "", look::kAside};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.
