@@ -303,11 +303,6 @@ std::optional<std::size_t> RowOf(const Field& field, std::string_view index)
 
 }  // namespace
 
-std::span<const Field> Fields()
-{
-    return kFields;
-}
-
 const Field* FindField(std::string_view name)
 {
     const auto found = std::find_if(std::begin(kFields), std::end(kFields),

@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -36,7 +35,6 @@ struct Field {
     std::optional<std::string> (*set)(GameState&, std::size_t row, std::size_t column, const Value&);
 };
 
-std::span<const Field> Fields();
 const Field* FindField(std::string_view name);
 
 // One value of the record: a field and which of its elements.
