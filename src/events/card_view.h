@@ -10,7 +10,8 @@
 
 namespace events {
 
-// The figures as the card has them, with a mark beside each that changes something, and the side effects.
+// The figures as the card has them, with a mark beside each that changes something and in the colour of what it
+// means for the president, and the side effects.
 void FillCard(screens::CardForm& form, const core::Card& card);
 
 // "Mr.President, <what> cannot be read. <file, line, item, what was expected>. ..."

@@ -123,6 +123,7 @@ TEST_F(Contrast, OfTextsThatChangeTheirColour)
 {
     const Recolored cases[] = {
         {"a loss on a card", "frmShow", "lblPER", look::kNegative},
+        {"a gain on a card", "frmShow", "lblPER", look::kBetter},
         {"a loss on a request", "frmShow2", "lblPER", look::kNegative},
         {"a budget that does not add up", "frmTaxes", "lbl", look::kNegative},
         {"an empty treasury", "frmTaxes", "Label22", look::kNegative},
