@@ -192,6 +192,7 @@ void Game::WireOffice()
 {
     desktop_.onRefresh = [this] {
         bank_.Review();
+        margin_.Refresh();
         slip_.Refresh();
         strip_.Refresh();
     };

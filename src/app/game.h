@@ -34,6 +34,7 @@
 #include "office/backdrop.h"
 #include "office/chronicle.h"
 #include "office/farewell.h"
+#include "office/margin.h"
 #include "office/settings_sheet.h"
 #include "office/slip.h"
 #include "office/strip.h"
@@ -204,6 +205,7 @@ private:
     office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
+    office::Margin margin_{state_, desktop_, screens_, format_};
     office::Slip slip_{state_, journal_, screens_, desktop_, format_};
     office::ChronicleSheet chronicle_{state_, screens_.frmChronicle, sound_, written_, format_};
     office::SettingsSheet settings_{screens_.frmSettings, sound_};

@@ -11,7 +11,6 @@ namespace {
 constexpr std::int64_t kGratitude = 10;  // American hostility
 constexpr std::int64_t kOffence = 30;    // American hostility, or the claimants' opposition
 constexpr std::int64_t kAidRefusedAt = 40;
-constexpr std::int64_t kAid = 50'000'000;
 constexpr std::int64_t kAidPause = 12;  // months
 
 // What a foreign base adds to each faction's opposition.

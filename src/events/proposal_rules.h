@@ -46,6 +46,7 @@ std::int64_t DamageOf(const core::GameState& state);
 void Accept(core::GameState& state);
 void Refuse(core::GameState& state);
 
+inline constexpr std::int64_t kAid = 50'000'000;  // dollars
 // Whether the Americans help; then the money has come, and they will not hear of it for twelve months.
 bool GrantAid(core::GameState& state);
 

@@ -59,6 +59,10 @@ inline constexpr Color kBetter = Rgb(0x12504F);      // on paper: a change for t
 // Type ------------------------------------------------------------------------------------------------
 inline constexpr TextStyle kBandTitle{
     .face = Face::Heading, .sizes = {{{26, 30}, {22, 26}, {19, 23}}}, .fore = kBandText};
+// On a band beside its title, and above it.
+inline constexpr TextStyle kBandNote{.face = Face::CaptionBold, .sizes = {{{15, 20}, {13, 18}}}, .fore = kBandText};
+inline constexpr TextStyle kBandNoteRight{
+    .face = Face::CaptionBold, .align = Align::Right, .sizes = {{{15, 20}, {13, 18}}}, .fore = kBandText};
 inline constexpr TextStyle kColumn{.face = Face::Heading, .sizes = {{{19, 23}, {16, 20}}}, .fore = kHeading};
 inline constexpr TextStyle kColumnRight{
     .face = Face::Heading, .align = Align::Right, .sizes = {{{19, 23}, {16, 20}}}, .fore = kHeading};
@@ -71,6 +75,9 @@ inline constexpr TextStyle kPoster{
 inline constexpr TextStyle kPosterText{
     .face = Face::Caption, .align = Align::Center, .sizes = {{{20, 27}, {17, 23}, {15, 20}}},
     .fore = kPaper, .wrap = true, .balanced = true};
+// Who says it.
+inline constexpr TextStyle kPosterSpeaker{
+    .face = Face::Heading, .align = Align::Center, .sizes = {{{28, 32}, {24, 28}}}, .fore = kSun};
 inline constexpr TextStyle kPosterButton{
     .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{18, 22}, {16, 20}}}, .fore = kBandText};
 inline constexpr TextStyle kPosterDangerButton{
@@ -110,6 +117,9 @@ inline constexpr TextStyle kTotalSecret{
     .fore = kSecretText};
 inline constexpr TextStyle kSmallValue{
     .face = Face::Typed, .align = Align::Right, .sizes = {{{16, 20}, {14, 18}}}, .fore = kInk};
+// What a figure is before it is changed.
+inline constexpr TextStyle kValueNow{
+    .face = Face::TypedLight, .align = Align::Right, .sizes = {{{15, 22}, {13, 20}}}, .fore = kUsedRow};
 // A value between the two buttons that change it.
 inline constexpr TextStyle kRate{
     .face = Face::Typed, .align = Align::Center, .sizes = {{{17, 20}, {15, 18}}}, .fore = kInk,
@@ -136,6 +146,14 @@ inline constexpr TextStyle kNoteTitle{
 // What a table is about.
 inline constexpr TextStyle kLead{
     .face = Face::CaptionBold, .sizes = {{{17, 26}, {16, 22}, {14, 18}}}, .fore = kInk};
+// What the treasury has of it, behind a sign.
+inline constexpr TextStyle kCardMoney{
+    .face = Face::CaptionBold, .sizes = {{{16, 22}, {15, 20}, {13, 18}}}, .fore = kInk};
+// What an abbreviation on the sheet means.
+inline constexpr TextStyle kSmallPrint{
+    .face = Face::Body, .sizes = {{{14, 17}, {13, 16}}}, .fore = kInk, .wrap = true};
+inline constexpr TextStyle kSmallPrintSecret{
+    .face = Face::Body, .sizes = {{{14, 17}, {13, 16}}}, .fore = kSecretText, .wrap = true};
 // What the intelligence service has typed.
 inline constexpr TextStyle kReport{
     .face = Face::Typed, .sizes = {{{16, 23}, {15, 21}, {14, 19}}}, .fore = kSecretText, .wrap = true,

@@ -199,6 +199,7 @@ std::optional<std::string> Narrator::Echo()
 
 void Narrator::Notice(ui::Cause cause)
 {
+    desktop_.Refresh();  // who listens looks, too
     std::vector<std::string> lines;
     for (const ui::Form* form :
          desktop_.Shown()) {  // the banner first; the desk's edge is read when asked for

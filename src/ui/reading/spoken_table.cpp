@@ -101,6 +101,8 @@ constexpr Spoken kTable[] = {
     {"frmTaxes.OutNum",     "{} dollars"},
     {"frmTaxes.lblbalance", "{} dollars"},
     {"frmTaxes.Label22",    "{} dollars"},
+    {"frmPolice.lblChief",  "-"},
+    {"frmArmy.lblChief",    "-"},
     {"frmPolice.Label10",   "{/}"},
     {"frmArmy.Label1",      "{/}"},
     {"frmPolice.lblPER(0)", "share of all strength"},
@@ -111,6 +113,10 @@ constexpr Spoken kTable[] = {
     {"frmShow2.lblPER(39)", "opposition"},
     {"frmShow.lblPER(0)",   "Party"},
     {"frmShow2.lblPER(0)",  "Party"},
+    {"frmShow.lblStrengthHead",    "strength now"},
+    {"frmShow.lblOppositionHead",  "opposition now"},
+    {"frmShow2.lblStrengthHead",   "strength now"},
+    {"frmShow2.lblOppositionHead", "opposition now"},
     {"frmShow.lblPER",      "{+}"},
     {"frmShow2.lblPER",     "{+}"},
     {"frmAIN.Rpro",         "revolution: {bar}"},
@@ -123,6 +129,7 @@ constexpr Spoken kTable[] = {
     {"frmPolice.Shape3",    "Yellow disc"},
     {"frmPolice.Shape2",    "Magenta diamond"},
     {"frmMonthBanner.Shape1", "-"},
+    {"frmMain.shpOpen*",    "-"},
 
     // Marks. ---------------------------------------------------------------------------------------------------------
     {"mark:triangle", "may revolt or send an assassin"},
@@ -233,12 +240,12 @@ constexpr Part kParts[] = {
     {"frmActions", {0, 0, 400, kFoot}},
     {"frmActions", {400, 0, kRight - 400, kFoot}},
     // What it is about, the table, the note, the answers.
-    {"frmShow",    {0, 0, kRight, 137}},
-    {"frmShow",    {0, 137, 470, 383}},
-    {"frmShow",    {470, 137, kRight - 470, 383}},
+    {"frmShow",    {0, 0, kRight, 138}},
+    {"frmShow",    {0, 138, 480, 382}},
+    {"frmShow",    {480, 138, kRight - 480, 382}},
     {"frmShow2",   {0, 0, kRight, 204}},
-    {"frmShow2",   {0, 204, 470, 316}},
-    {"frmShow2",   {470, 204, kRight - 470, 316}},
+    {"frmShow2",   {0, 204, 480, 316}},
+    {"frmShow2",   {480, 204, kRight - 480, 316}},
 };
 // clang-format on
 

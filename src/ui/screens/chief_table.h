@@ -53,12 +53,15 @@ constexpr ChiefCells ChiefElements()
 inline constexpr ChiefCells kChiefCells = ChiefElements();
 
 struct ChiefTable : ui::Form {
-    ChiefTable(ui::Stage& stage, std::string_view name, std::string_view title)
+    // The key says what the two figures behind a chief's name are, and what they do.
+    ChiefTable(ui::Stage& stage, std::string_view name, std::string_view title, std::string_view key)
         : Form(stage, {.name = name, .rect = kChiefsSheet, .decor = kChiefsDecor}),
-          Label5{*this, "Label5", {56, 63, 640, 30}, title, look::kBandTitle}
+          Label5{*this, "Label5", {56, 63, 640, 30}, title, look::kBandTitle},
+          lblKey{*this, "lblKey", {232, 552, 509, 34}, key, look::kSmallPrint}
     {}
 
     ui::Label Label5;
+    ui::Label lblKey;
     ui::Label Label2{*this, "Label2", {240, 106, 200, 23}, "Name", look::kColumn};
     ui::Label Label3{*this, "Label3", {517, 106, 112, 23}, "Ability", look::kColumnCenter};
     ui::Label Label4{*this, "Label4", {629, 106, 112, 23}, "Ambition", look::kColumnCenter};

@@ -86,6 +86,11 @@ constexpr ui::Rect ForecastName(int faction)
     return {56, ForecastTop(faction) + 2, 150, 27};
 }
 
+// A draw of 1 .. 10 below a tenth of the opposition lets a faction join; its strength does not matter.
+inline constexpr std::string_view kMightJoin =
+    "Might join: when others have begun, they come along five times in ten at 56 % opposition, eight times in "
+    "ten at 90 %, however weak they are.";
+
 struct FrmAIN : ui::Form {
     explicit FrmAIN(ui::Stage& stage)
         : Form(stage, {.name = "frmAIN", .rect = {30, 58, 740, 530}, .decor = kReportDecor})
@@ -106,11 +111,13 @@ struct FrmAIN : ui::Form {
     ui::ControlArray<ui::Label> RproGoesOn{*this, "RproGoesOn", kRproGoesOnRows};
     ui::ControlArray<ui::Label> AProGoesOn{*this, "AProGoesOn", kAProGoesOnRows};
 
-    ui::Shape Shape1{*this, "Shape1", {56, 508, 15, 15}, "", look::kShape, {.back = look::kRed}};
-    ui::Label Label14{*this, "Label14", {82, 502, 330, 26}, "Possibility to start a Revolution ", look::kCaptionSecret};
-    ui::Shape Shape3{*this, "Shape3", {56, 535, 15, 15}, "", look::kShape, {.back = look::kYellow}};
-    ui::Label Label16{*this, "Label16", {82, 529, 330, 26}, "Possibility to make an assasination attempt",
+    ui::Shape Shape1{*this, "Shape1", {56, 498, 15, 15}, "", look::kShape, {.back = look::kRed}};
+    ui::Label Label14{*this, "Label14", {82, 492, 330, 26}, "Possibility to start a Revolution ", look::kCaptionSecret};
+    ui::Shape Shape3{*this, "Shape3", {56, 522, 15, 15}, "", look::kShape, {.back = look::kYellow}};
+    ui::Label Label16{*this, "Label16", {82, 516, 330, 26}, "Possibility to make an assasination attempt",
         look::kCaptionSecret};
+    // Only where the paragraph speaks of it.
+    ui::Label lblJoin{*this, "lblJoin", {56, 545, 490, 35}, kMightJoin, look::kSmallPrintSecret, {.visible = false}};
 };
 
 }  // namespace screens

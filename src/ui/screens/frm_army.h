@@ -19,7 +19,8 @@ struct FrmArmy : ui::Form {
         : Form(stage, {.name = "frmArmy", .rect = kArmySheet, .decor = kArmyDecor})
     {}
 
-    ui::Label Label1{*this, "Label1", {36, 61, 690, 30}, "ARMY CHIEF IS", look::kBandTitle};
+    ui::Label Label1{*this, "Label1", {36, 61, 512, 30}, "ARMY CHIEF IS", look::kBandTitle};
+    ui::Label lblChief{*this, "lblChief", {548, 61, 174, 30}, "", look::kBandNoteRight};
     ui::Picture Image1{*this, "Image1", {25, 99, 744, 420}, "The map is being corrected.", look::kPicture,
         {.picture = "images/map.bmp"}};
 

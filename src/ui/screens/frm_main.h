@@ -27,6 +27,10 @@ inline constexpr std::array<ui::ElementRow, kMenuItems> kMenuRows{{
 }};
 // clang-format on
 
+// The key whose screen is open hangs from a bar with a point: the lit key is the one last pointed at.
+inline constexpr ui::Rect OpenBar(int item) { return {MenuPlace(item).left + 2, 0, 129, 4}; }
+inline constexpr ui::Rect OpenPoint(int item) { return {MenuPlace(item).left + 58, 2, 16, 12}; }
+
 inline constexpr std::array kMainDecor{
     ui::Decor{.kind = ui::Decor::Kind::Fill, .rect = {0, 48, 800, 1}, .color = ui::Rgb(0x3A2A0C)},
 };
@@ -37,6 +41,10 @@ struct FrmMain : ui::Form {
     {}
 
     ui::ControlArray<ui::Picture> Label5{*this, "Label5", kMenuRows};
+
+    ui::Shape shpOpenBar{*this, "shpOpenBar", OpenBar(0), "", look::kShape, {.visible = false}};
+    ui::Shape shpOpenPoint{*this, "shpOpenPoint", OpenPoint(0), "", look::kShape,
+        {.visible = false, .mark = ui::Mark::Down}};
 
     // One-shot pauses, so that the player can read: what each continues with is wired by its owner.
     ui::Timer Timer1{*this, "Timer1"};  // the month's events

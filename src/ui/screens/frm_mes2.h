@@ -20,7 +20,8 @@ struct FrmMes2 : ui::Form {
 
     ui::Picture Image1{*this, "Image1", {90, 98, 620, 160}, "Civil war", look::kPicture,
         {.picture = "images/civilwar.bmp"}};
-    ui::Label Label1{*this, "Label1", {120, 274, 560, 194}, "", look::kPosterText};
+    ui::Label lblSpeaker{*this, "lblSpeaker", {120, 268, 560, 32}, "", look::kPosterSpeaker};
+    ui::Label Label1{*this, "Label1", {120, 304, 560, 168}, "", look::kPosterText};
     ui::CommandButton Command2{*this, "Command2", {130, 482, 250, 44}, "Deal!", look::kPosterButton};
     ui::CommandButton Command1{*this, "Command1", {420, 482, 250, 44}, "Never!", look::kPosterButton};
 };

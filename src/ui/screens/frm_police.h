@@ -87,7 +87,8 @@ struct FrmPolice : ui::Form {
         : Form(stage, {.name = "frmPolice", .rect = kPoliceSheet, .decor = kPoliceDecor})
     {}
 
-    ui::Label Label10{*this, "Label10", {36, 63, 690, 30}, "POLICE CHIEF IS", look::kBandTitle};
+    ui::Label Label10{*this, "Label10", {36, 63, 512, 30}, "POLICE CHIEF IS", look::kBandTitle};
+    ui::Label lblChief{*this, "lblChief", {552, 63, 174, 30}, "", look::kBandNoteRight};
 
     ui::Label Label2{*this, "Label2", ReportCell(0, 42, 200), "Workers", look::kCaptionSecret};
     ui::Label Label5{*this, "Label5", ReportCell(1, 42, 200), "Peasants", look::kCaptionSecret};

@@ -5,7 +5,7 @@
 
 namespace screens {
 
-inline constexpr CardPlan kShowPlan{.head = 137, .height = 305, .note = {476, 124, 271, 368}};
+inline constexpr CardPlan kShowPlan{.band = 56, .head = 146, .height = 298, .note = {488, 138, 259, 354}};
 inline constexpr std::array kShowDecor = CardDecor(kShowPlan, "TO BE SIGNED");
 
 struct FrmShow : CardForm {
@@ -16,8 +16,10 @@ struct FrmShow : CardForm {
         cancelButton = &Command1;
     }
 
-    ui::Label Label8{*this, "Label8", kCardTitle, "Police report for", look::kBandTitle};
-    ui::Label Label10{*this, "Label10", {50, 106, 404, 28}, "This action will effect the society like this:", look::kLead};
+    // What the button said that led here; the report's own title likes to call it something else.
+    ui::Label lblAction{*this, "lblAction", {46, 61, 655, 20}, "", look::kBandNote};
+    ui::Label Label8{*this, "Label8", {46, 80, 655, 30}, "Police report for", look::kBandTitle};
+    ui::Label Label10{*this, "Label10", {50, 119, kCardTableWidth, 26}, "This action will effect the society like this:", look::kLead};
     ui::CommandButton Command1{*this, "Command1", kCardLeftButton, "Cancel action", look::kButton};
     ui::CommandButton Command3{*this, "Command3", kCardRightButton, "Proceed", look::kDangerButton};
 };

@@ -5,7 +5,7 @@
 
 namespace screens {
 
-inline constexpr CardPlan kShow2Plan{.head = 206, .height = 283, .note = {476, 204, 271, 294}};
+inline constexpr CardPlan kShow2Plan{.band = 38, .head = 204, .height = 262, .note = {488, 204, 259, 294}};
 inline constexpr std::array kShow2Decor = CardDecor(kShow2Plan, "RECEIVED");
 
 struct FrmShow2 : CardForm {
@@ -13,7 +13,7 @@ struct FrmShow2 : CardForm {
         : CardForm(stage, {.name = "frmShow2", .rect = kCardSheet, .decor = kShow2Decor, .asks = true}, kShow2Plan)
     {}
 
-    ui::Label Label8{*this, "Label8", kCardTitle, "A request from the", look::kBandTitle};
+    ui::Label Label8{*this, "Label8", {46, 62, 655, 30}, "A request from the", look::kBandTitle};
     ui::Label Label10{*this, "Label10", {50, 108, 695, 92}, "", look::kBody};
     ui::CommandButton Command1{*this, "Command1", kCardLeftButton, "O.K. do it!", look::kButton};
     ui::CommandButton Command3{*this, "Command3", kCardRightButton, "Never!", look::kButton};
