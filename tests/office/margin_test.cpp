@@ -73,7 +73,7 @@ TEST_F(OnScreens, ACardTellsWhatThePoliceWouldTell)
     game.Set({{"Strength[Workers]", 31},
               {"Opposition[Workers]", -4},
               {"AmericanHostility", 120},
-              {"Strength[Army]", 32'767}});
+              {"Strength[Army]", -32'768}});
     game.Click("frmMain.Label5(0)");
     game.Click("frmActions.Command1(1)");
     EXPECT_EQ(Look("frmShow.lblAction"), "Decrease Education expenses");
@@ -87,7 +87,7 @@ TEST_F(OnScreens, ACardTellsWhatThePoliceWouldTell)
     game.Desktop().Touch();
     EXPECT_EQ(Look("frmShow.lblStrengthNow(0)"), "?");
     EXPECT_EQ(Look("frmShow.lblOppositionNow(5)"), "?");
-    EXPECT_EQ(Look("frmShow.lblStrengthNow(5)"), "32767") << "the map has it as well";
+    EXPECT_EQ(Look("frmShow.lblStrengthNow(5)"), "-32768") << "the map has it as well";
 }
 
 TEST_F(OnScreens, AnOfferSaysWhoSpeaksAndNoKeyLedToIt)

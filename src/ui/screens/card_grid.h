@@ -23,7 +23,7 @@ inline constexpr ui::Rect kCardRightButton{545, 530, 200, 40};
 
 inline constexpr int kCardGroups = 10;  // the nine groups and the Americans
 
-inline constexpr int kCardTableWidth = 422;
+inline constexpr int kCardTableWidth = 420;
 
 struct CardPlan {
     int band = 0;    // height of the red band
@@ -34,8 +34,8 @@ struct CardPlan {
     constexpr int Top(int row) const { return head + 27 + height * row / kCardGroups; }
     constexpr int Height(int row) const { return Top(row + 1) - Top(row); }
     constexpr ui::Rect Name(int row) const { return {56, Top(row), 92, Height(row)}; }
-    constexpr ui::Rect StrengthNow(int row) const { return {148, Top(row), 44, Height(row)}; }
-    constexpr ui::Rect Strength(int row) const { return {192, Top(row), 90, Height(row)}; }
+    constexpr ui::Rect StrengthNow(int row) const { return {150, Top(row), 48, Height(row)}; }
+    constexpr ui::Rect Strength(int row) const { return {198, Top(row), 90, Height(row)}; }
     constexpr ui::Rect OppositionNow(int row) const { return {318, Top(row), 42, Height(row)}; }
     constexpr ui::Rect Opposition(int row) const { return {360, Top(row), 90, Height(row)}; }
     constexpr ui::Rect Money() const { return {50, Top(kCardGroups) + 4, kCardTableWidth, 28}; }
@@ -53,7 +53,7 @@ constexpr std::array<ui::ElementRow, 3 + 2 * kCardGroups> CardRows(const CardPla
 {
     std::array<ui::ElementRow, 3 + 2 * kCardGroups> rows{{
         { 0, { 56, plan.head,  92, 24}, "Party",      &look::kColumn,      {}},
-        {28, {196, plan.head,  92, 24}, "Strength",   &look::kColumnRight, {}},
+        {28, {202, plan.head,  92, 24}, "Strength",   &look::kColumnRight, {}},
         {39, {364, plan.head,  92, 24}, "Opposition", &look::kColumnRight, {}},
     }};
     std::size_t at = 3;
@@ -123,7 +123,7 @@ struct CardForm : ui::Form {
     ui::Label Label6{*this, "Label6", plan.Name(8), "Prisoners", look::kCaption};
     ui::Label Label14{*this, "Label14", plan.Name(9), "Americans", look::kCaption};
     ui::ControlArray<ui::Label> lblPER{*this, "lblPER", CardRows(plan)};
-    ui::Label lblStrengthHead{*this, "lblStrengthHead", {148, plan.head, 44, 24}, "Now", look::kColumnRight};
+    ui::Label lblStrengthHead{*this, "lblStrengthHead", {150, plan.head, 48, 24}, "Now", look::kColumnRight};
     ui::Label lblOppositionHead{*this, "lblOppositionHead", {318, plan.head, 42, 24}, "Now", look::kColumnRight};
     ui::ControlArray<ui::Label> lblStrengthNow{*this, "lblStrengthNow", StrengthNowRows(plan)};
     ui::ControlArray<ui::Label> lblOppositionNow{*this, "lblOppositionNow", OppositionNowRows(plan)};

@@ -5,7 +5,7 @@
 
 namespace screens {
 
-inline constexpr CardPlan kShowPlan{.band = 56, .head = 146, .height = 298, .note = {488, 138, 259, 354}};
+inline constexpr CardPlan kShowPlan{.band = 56, .head = 146, .height = 298, .note = {480, 130, 272, 368}};
 inline constexpr std::array kShowDecor = CardDecor(kShowPlan, "TO BE SIGNED");
 
 struct FrmShow : CardForm {

@@ -5,7 +5,7 @@
 
 namespace screens {
 
-inline constexpr CardPlan kShow2Plan{.band = 38, .head = 204, .height = 262, .note = {488, 204, 259, 294}};
+inline constexpr CardPlan kShow2Plan{.band = 38, .head = 204, .height = 262, .note = {480, 204, 272, 294}};
 inline constexpr std::array kShow2Decor = CardDecor(kShow2Plan, "RECEIVED");
 
 struct FrmShow2 : CardForm {
