@@ -202,7 +202,8 @@ private:
     instruments::Coups coups_{state_, chance_, journal_, screens_.frmMes3, sound_};
 
     // The office behind everything.
-    office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner};
+    office::Backdrop backdrop_{state_, desktop_, screens_.frmMain, screens_.frmMonthBanner,
+                               screens_.frmFarewell};
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
     office::Margin margin_{state_, desktop_, screens_, format_};

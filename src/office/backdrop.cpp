@@ -8,10 +8,11 @@
 namespace office {
 
 Backdrop::Backdrop(const core::GameState& state, ui::Desktop& desktop, const screens::FrmMain& main,
-                   screens::FrmMonthBanner& banner)
+                   screens::FrmMonthBanner& banner, screens::FrmFarewell& farewell)
     : state_(state), desktop_(desktop), main_(main), banner_(banner)
 {
     banner.scene = [this] { return Scene(); };
+    farewell.scene = banner.scene;
     desktop.onInput = [this] { FoldMessage(); };
 }
 

@@ -56,13 +56,14 @@ const ui::Form* BackdropOf(const ui::Desktop& desktop)
     return !shown.empty() && shown.front()->GetDesign().backdrop ? shown.front() : nullptr;
 }
 
-// Whether a screen that fills everything, as the title does, hides what is behind it.
+// Whether a screen that fills everything, as the title does, hides what is behind it and shows no scene itself.
 bool Hidden(const ui::Desktop& desktop)
 {
     const auto& shown = desktop.Shown();
-    return std::any_of(shown.begin(), shown.end(), [](const ui::Form* form) {
+    const auto front = std::find_if(shown.rbegin(), shown.rend(), [](const ui::Form* form) {
         return !form->GetDesign().backdrop && form->Place() == ui::kSpace;
     });
+    return front != shown.rend() && !(*front)->scene;
 }
 
 // By how many percent a screen in front darkens the scene.

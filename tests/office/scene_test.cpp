@@ -71,6 +71,25 @@ TEST(Scene, MessagesAreReadableWhateverLiesBehindThem)
     }
 }
 
+// The page hides the hall that it stands in front of, and beside it the office goes on in the dark.
+TEST(Scene, GoesOnBesideTheLastPage)
+{
+    test::TestGame game;
+    game.StartGame();
+    platform::Painter painter(game.game.Folder());
+    const test::Surface surface = test::MakeSurface(800, 600);
+    const auto edge = [&] {
+        painter.Paint(game.Desktop(), *surface, {}, ui::kSpace);
+        return Luminance(test::PixelAt(*surface, 10, 300));
+    };
+    const double before = edge();
+    game.Screens().frmTop102.Show();
+    game.Screens().frmFarewell.Show();
+    const double beside = edge();
+    EXPECT_GT(beside, 0);
+    EXPECT_LT(beside, before);
+}
+
 // Of what lies between the menu and the desk's edge, which have lights of their own.
 std::uint32_t Fingerprint(const SDL_Surface& surface)
 {

@@ -50,7 +50,7 @@ inline constexpr std::array<ui::ElementRow, kNoticeRows> kNoticeValues{{
 
 struct FrmFarewell : ui::Form {
     explicit FrmFarewell(ui::Stage& stage)
-        : Form(stage, {.name = "frmFarewell", .rect = ui::kSpace, .decor = kFarewellDecor, .opaque = true, .own = true})
+        : Form(stage, {.name = "frmFarewell", .rect = ui::kSpace, .decor = kFarewellDecor, .opaque = true, .dims = 45, .own = true})
     {
         initialFocus = &Command1;
         defaultButton = &Command1;
