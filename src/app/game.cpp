@@ -1,8 +1,8 @@
 #include "app/game.h"
 
-#include "app/spoken_strip.h"
 #include "core/society.h"
 #include "month/banner.h"
+#include "office/strip_words.h"
 
 #include <utility>
 
@@ -152,7 +152,8 @@ void Game::WireEvents()
 void Game::WireKeys()
 {
     narrator_.strip = [this] {
-        return screens_.frmMain.Loaded() ? SpokenStrip(state_) : std::vector<std::string>();
+        return screens_.frmMain.Loaded() ? office::SpokenStrip(office::StripOf(state_))
+                                         : std::vector<std::string>();
     };
     narrator_.report = [this](std::string_view message) {
         month::Say(screens_.frmMonthBanner, message);

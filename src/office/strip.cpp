@@ -16,8 +16,6 @@ namespace {
 using screens::kStripWarningCell;
 using screens::kStripWarnings;
 
-constexpr std::string_view kCalm = "Nobody we know of, Mr.President.";
-
 // By Alarm.
 constexpr std::array kMarks{ui::Mark::Triangle, ui::Mark::Disc, ui::Mark::Diamond, ui::Mark::Question};
 

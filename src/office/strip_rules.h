@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace office {
@@ -25,6 +26,8 @@ struct Warning {
 };
 
 inline constexpr std::size_t kMostWarnings = 3;
+// In the warnings' place when there is none.
+inline constexpr std::string_view kCalm = "Nobody we know of, Mr.President.";
 
 struct Strip {
     std::int64_t month = 0;
