@@ -188,8 +188,10 @@ std::string SaidOf(Series series, const Chronicle& chronicle)
 {
     std::optional<std::int64_t> first;
     std::optional<std::int64_t> most;
+    std::int64_t least = 0;
     for (const ChronicleRow& row : chronicle) {
         if (const std::optional<std::int64_t> value = ValueOf(series, row)) {
+            least = std::min(first ? least : *value, *value);
             first = first.value_or(*value);
             most = std::max(most.value_or(*value), *value);
         }
@@ -197,8 +199,15 @@ std::string SaidOf(Series series, const Chronicle& chronicle)
     if (!first) {
         return {};
     }
-    return std::string(NameOf(series)) + " from " + core::Digits(*first) + " to " +
-           core::Digits(*LastOf(series, chronicle)) + ", at most " + core::Digits(*most);
+    std::string said(NameOf(series));
+    said += series == Series::Popularity ? ", " : RowOf(series).factions ? ", opposition " : ", strength ";
+    const std::int64_t last = *LastOf(series, chronicle);
+    if (least == *most) {
+        return said + core::Digits(last) + "% all the time";
+    }
+    said += last > *first ? "up from " : last < *first ? "down from " : "again from ";
+    said += core::Digits(*first) + " to " + core::Digits(last) + "%";
+    return *most > std::max(*first, last) ? said + ", at most " + core::Digits(*most) + "%" : said;
 }
 
 std::string SaidOfMoney(const Chronicle& chronicle)
@@ -211,7 +220,7 @@ std::string SaidOfMoney(const Chronicle& chronicle)
     };
     const auto least = std::min_element(chronicle.begin(), chronicle.end(),
                                         [](const auto& a, const auto& b) { return a.treasury < b.treasury; });
-    return "The treasury in millions, from " + millions(chronicle.front().treasury) + " to " +
+    return "The treasury in millions of dollars, from " + millions(chronicle.front().treasury) + " to " +
            millions(chronicle.back().treasury) + ", at least " + millions(least->treasury);
 }
 

@@ -44,7 +44,7 @@ std::string_view NameOf(Series series);
 std::optional<std::int64_t> LastOf(Series series, const persist::Chronicle& chronicle);
 bool IsOverLimit(Series series, std::int64_t value);
 ui::Chart ChartOf(Series series, const persist::Chronicle& chronicle);
-// "From 30 to 58 in 27 months, at most 71." Empty without a value.
+// "Workers, opposition up from 30 to 58%, at most 71%". Empty without a value.
 std::string SaidOf(Series series, const persist::Chronicle& chronicle);
 
 // "The treasury, in millions, from 50 to 5, at least minus 4."

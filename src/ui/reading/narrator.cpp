@@ -41,20 +41,20 @@ std::span<const Narrator::Command> Narrator::Commands()
     using ui::Key;
     // clang-format off
     static constexpr Command kCommands[] = {
-        {Key::F2,       "F2",        "narration on and off",             &Narrator::Toggle},
-        {Key::F3,       "F3",        "what was said last, again",        &Narrator::Repeat},
-        {Key::F4,       "F4",        "everything that is shown",         &Narrator::ReadEverything},
-        {Key::F5,       "F5",        "how the country stands",           &Narrator::ReadStrip},
-        {Key::F6,       "F6",        "these keys",                       &Narrator::TellKeys},
-        {Key::F7,       "F7",        "slower",                           &Narrator::Slower},
-        {Key::F8,       "F8",        "faster",                           &Narrator::Faster},
-        {Key::F9,       "F9",        "silence",                          &Narrator::Hush},
-        {Key::PageUp,   "PageUp",    "the line before",                  &Narrator::LineBefore},
-        {Key::PageDown, "PageDown",  "the next line",                    &Narrator::LineAfter},
-        {Key::AltLeft,  "AltLeft",   "the figure to the left",           &Narrator::CellLeft},
-        {Key::AltRight, "AltRight",  "the figure to the right, exactly", &Narrator::CellRight},
-        {Key::AltUp,    "AltUp",     "the same figure one row up",       &Narrator::RowAbove},
-        {Key::AltDown,  "AltDown",   "the same figure one row down",     &Narrator::RowBelow},
+        {Key::F2,       "F2",        "the left stick pressed", "narration on and off",             &Narrator::Toggle},
+        {Key::F3,       "F3",        "X",                      "what was said last, again",        &Narrator::Repeat},
+        {Key::F4,       "F4",        "the right trigger",      "everything that is shown",         &Narrator::ReadEverything},
+        {Key::F5,       "F5",        "Back",                   "how the country stands",           &Narrator::ReadStrip},
+        {Key::F6,       "F6",        "the right stick pressed", "these keys",                      &Narrator::TellKeys},
+        {Key::F7,       "F7",        "",                       "slower",                           &Narrator::Slower},
+        {Key::F8,       "F8",        "",                       "faster",                           &Narrator::Faster},
+        {Key::F9,       "F9",        "the left trigger",       "silence",                          &Narrator::Hush},
+        {Key::PageUp,   "PageUp",    "the right stick up",     "the line before",                  &Narrator::LineBefore},
+        {Key::PageDown, "PageDown",  "the right stick down",   "the next line",                    &Narrator::LineAfter},
+        {Key::AltLeft,  "AltLeft",   "the right stick left",   "the figure to the left",           &Narrator::CellLeft},
+        {Key::AltRight, "AltRight",  "the right stick right",  "the figure to the right, exactly", &Narrator::CellRight},
+        {Key::AltUp,    "AltUp",     "",                       "the same figure one row up",       &Narrator::RowAbove},
+        {Key::AltDown,  "AltDown",   "",                       "the same figure one row down",     &Narrator::RowBelow},
     };
     // clang-format on
     return kCommands;
@@ -90,6 +90,7 @@ void Narrator::Switch(bool on)
         Say({"Narration is off."}, true);
         return;
     }
+    desktop_.Refresh();
     std::vector<std::string> lines{"Narration is on. F2 turns it off again, F6 tells all its keys."};
     for (auto form = desktop_.Shown().rbegin(); form != desktop_.Shown().rend(); ++form) {
         Append(lines, Summary(Read(**form)));
@@ -199,7 +200,7 @@ std::optional<std::string> Narrator::Echo()
 
 void Narrator::Notice(ui::Cause cause)
 {
-    desktop_.Refresh();  // who listens looks, too
+    desktop_.Refresh();  // own screens wait for who looks
     std::vector<std::string> lines;
     for (const ui::Form* form :
          desktop_.Shown()) {  // the banner first; the desk's edge is read when asked for
@@ -268,6 +269,7 @@ void Narrator::TellKeys()
     std::vector<std::string> lines{
         "Tab and the arrows move, Return or Space press, Escape cancels.",
         "1 to 6 are the commands of the menu, F1 opens the manual.",
+        "On a gamepad the cross moves, A presses, B cancels, the shoulders walk along the menu.",
     };
     for (const Command& command : Commands()) {
         std::string name(command.name);
@@ -275,6 +277,9 @@ void Narrator::TellKeys()
             if (name.starts_with(prefix)) {
                 name.insert(prefix.size(), " ");
             }
+        }
+        if (!command.pad.empty()) {
+            name += ", on a gamepad " + std::string(command.pad);
         }
         lines.push_back(Sentence(name + ": " + std::string(command.what)));
     }

@@ -48,6 +48,7 @@ public:
     struct Command {
         ui::Key key;
         std::string_view name;  // of the key, as it is said and as the console spells it
+        std::string_view pad;   // what does it on a gamepad; empty: nothing
         std::string_view what;
         void (Narrator::*run)();
     };

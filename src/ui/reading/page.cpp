@@ -34,6 +34,11 @@ std::string Worded(const Control& control, std::string_view pattern, Sums sums)
     if (pattern.find("{+}") != std::string_view::npos) {
         return Filled(pattern, "{+}", SaidChange(control.Text()));
     }
+    if (pattern.find("{%}") != std::string_view::npos) {
+        const std::string& text = control.Text();
+        const std::string percent = Said(text.ends_with('%') ? text : text + "%");
+        return Filled(pattern, "{%}", text == "?" ? "not reported" : percent);
+    }
     if (pattern.find("{/}") != std::string_view::npos) {
         return Filled(pattern, "{/}", SaidChief(control.Text()));
     }
@@ -91,7 +96,7 @@ std::string WithState(const Control& control, std::string said)
     if (control.Style().ornament == ui::Ornament::Pips) {
         said += " of 10";
     }
-    if (control.Now().fore == look::kUsedRow) {
+    if (control.Now().fore == look::kUsedRow && control.Style().fore != look::kUsedRow) {
         said += ", used";
     }
     said += KindOf(control);
@@ -120,6 +125,7 @@ bool Joins(const Control& control)
     case Kind::CommandButton:
         return IsRateButton(control);
     case Kind::Picture:
+    case Kind::Graph:
         return false;
     default:
         return control.Style().ornament != ui::Ornament::Plate &&
@@ -355,7 +361,7 @@ std::string SaidControl(const ui::Control& control, Sums sums)
     if (control.GetKind() == Kind::Picture) {
         return WithState(control, SaidPicture(control, row));
     }
-    if (IsRateButton(control)) {
+    if (IsRateButton(control) && row == nullptr) {
         return WithState(control, control.Text() == "+" ? "raise" : "lower");
     }
     const bool fixed = row != nullptr && row->said.find('{') == std::string_view::npos;

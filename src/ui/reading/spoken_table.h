@@ -21,7 +21,8 @@ struct Spoken {
     // "frmTaxes" (a screen), "frmTaxes.Label22" (a control), "frmTaxes.TaxIncome*" (all that begin so),
     // "*.OLE1" (on any screen), "images/map.bmp" (a picture), "mark:disc", "frmPolice.lblAF mark:triangle".
     std::string_view what;
-    // {} stands for the printed text as it is said, {+} for it as a change, {/} for a chief with his two figures,
+    // {} stands for the printed text as it is said, {+} for it as a change, {%} for it in
+    // percent or as not reported, {/} for a chief with his two figures,
     // {bar} for a bar's length. Nothing but a dash: silent. For a screen its title.
     std::string_view said;
     // What the screen is for; what a picture shows, when everything is read.

@@ -231,6 +231,10 @@ std::string SaidNumbers(std::string_view text, Sums sums)
             const Number number = ReadNumber(text, at);
             said += SaidNumber(number, sums);
             at = number.end;
+        } else if (text[at] == '$' && at + 1 < text.size() && IsDigit(text[at + 1])) {
+            const Number number = ReadNumber(text, at + 1);
+            said += SaidNumber(number, sums) + " dollars";
+            at = number.end;
         } else if (text[at] == '$' && at > 0 && IsDigit(text[at - 1])) {
             said += " dollars";
             ++at;

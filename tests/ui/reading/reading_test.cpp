@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 using namespace reading;
@@ -15,7 +17,7 @@ using ui::Control;
 // A name of the program that got into a line: frmMain, Label5(4), lblPER, images/title.bmp.
 constexpr char kCodeName[] =
     "frm[A-Z]|(Label|Command|Option|Text|Image|Shape|OLE|OutNum|lbl[A-Za-z]*|Rpro|APro)[0-9]*\\("
-    "|lbl[A-Z]|\\.bmp|images/|[{}]";
+    "|lbl[A-Z]|\\.(bmp|png)|images/|[{}]";
 
 void ExpectLines(const std::vector<std::string>& lines, const std::string& where)
 {
@@ -164,6 +166,61 @@ TEST(Reading, SaysTheTablesByRowAndColumn)
     has(card, "\nWorkers, strength ");
     has(card, "\nStamped: to be signed.\n");
     EXPECT_EQ(card.find("no change, opposition no change"), std::string::npos) << card;
+}
+
+// What the game's own screens print without its unit, its caption or its sense.
+TEST(Reading, SaysWhatTheOwnScreensMean)
+{
+    test::TestGame game;
+    const struct {
+        const char* form;
+        std::vector<std::tuple<const char*, const char*, ui::Mark>> set;
+        const char* line;
+    } cases[] = {
+        {"frmSlip",
+         {{"lblValue(0)", "66", {}},
+          {"lblChange(0)", "+3", ui::Mark::Up},
+          {"Label2(0)", "Workers", ui::Mark::Triangle}},
+         "Workers, may revolt or send an assassin, opposition 66 per cent, plus 3."},
+        {"frmSlip", {{"lblValue(1)", "?", {}}}, "Peasants, opposition not reported."},
+        {"frmSlip",
+         {{"lblValue(7)", "12", {}}, {"lblChange(7)", "", {}}},
+         "Guerrillas, strength 12 per cent."},
+        {"frmSlip",
+         {{"lblMoneyChange(0)", "-15,630,952", {}}},
+         "Minus 15.6 million dollars since last month."},
+        {"frmStrip",
+         {{"lblMoney", "50,000,000", {}},
+          {"lblBalance", "-1,200", ui::Mark::Down},
+          {"lblFavour", "?", {}},
+          {"lblWarning(0)", "Army", ui::Mark::Disc}},
+         "Month 1, treasury 50 million dollars, balance of the coming month minus 1,200 dollars, the "
+         "Americans' favour "
+         "not reported, Army, may join a revolution."},
+        {"frmFarewell", {{"lblNotice(1)", "$412,650", {}}}, "Fortune: 412,650 dollars."},
+        {"frmSettings", {{"lblVolume", "7", {}}}, "Sound, 7 of 10."},
+        {"frmChronicle",
+         {{"grfGroup(1)", "Workers, opposition up from 0 to 14%", {}}, {"lblName(1)", "Workers", {}}},
+         "Workers, opposition up from 0 to 14 per cent."},
+        {"frmChronicle",
+         {{"lblMonth(0)", "4", {}}, {"lblLine(0)", "Nothing. It was a good month.", {}}},
+         "Month 4: Nothing. It was a good month."},
+    };
+    for (const auto& each : cases) {
+        for (const auto& [name, text, mark] : each.set) {
+            ui::Control& control = game.Control(std::string(each.form) + "." + name);
+            control.SetVisible(true);
+            control.SetText(text);
+            control.SetMark(mark);
+        }
+        std::string lines;
+        for (const Row& row : Read(game.Form(each.form)).rows) {
+            lines += Line(row) + "\n";
+        }
+        EXPECT_NE(("\n" + lines).find("\n" + std::string(each.line) + "\n"), std::string::npos)
+            << each.line << "\nis not in\n"
+            << lines;
+    }
 }
 
 }  // namespace

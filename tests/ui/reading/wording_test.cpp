@@ -23,6 +23,7 @@ TEST(Wording, SaysAmountsSignsAndShouts)
         {"rounding carries", "999,999,999", "1 billion"},
         {"below a million exact", "62,331$", "62,331 dollars"},
         {"nine hundred thousand", "999,999", "999,999"},
+        {"the sign before", "$1,500,000 and $0", "1.5 million dollars and 0 dollars"},
         {"a share is no group", "11.5%", "11.5 per cent"},
         {"nor with a comma", "-3276800,0%", "minus 3,276,800.0 per cent"},
         {"plain digits", "for 2 months", "for 2 months"},
