@@ -167,13 +167,13 @@ TEST_F(WindowTest, AGamepadIsAnotherPairOfHands)
             gamepad.Handle(event);
         }
     };
-    const auto press = [&](SDL_GameControllerButton button) {
+    const auto press = [&](int button) {
         for (const Uint8 down : {Uint8{1}, Uint8{0}}) {
             SDL_JoystickSetVirtualButton(pad, button, down);
             handle();
         }
     };
-    const auto push = [&](SDL_GameControllerAxis axis, Sint16 value) {
+    const auto push = [&](int axis, Sint16 value) {
         SDL_JoystickSetVirtualAxis(pad, axis, value);
         handle();
     };
@@ -193,11 +193,24 @@ TEST_F(WindowTest, AGamepadIsAnotherPairOfHands)
     story.clear();
     for (const auto button :
          {SDL_CONTROLLER_BUTTON_B, SDL_CONTROLLER_BUTTON_LEFTSHOULDER, SDL_CONTROLLER_BUTTON_RIGHTSHOULDER,
-          SDL_CONTROLLER_BUTTON_START, SDL_CONTROLLER_BUTTON_Y, SDL_CONTROLLER_BUTTON_X}) {
+          SDL_CONTROLLER_BUTTON_START, SDL_CONTROLLER_BUTTON_Y, SDL_CONTROLLER_BUTTON_LEFTSTICK,
+          SDL_CONTROLLER_BUTTON_X, SDL_CONTROLLER_BUTTON_BACK, SDL_CONTROLLER_BUTTON_RIGHTSTICK}) {
         press(button);
     }
+    for (const auto axis : {SDL_CONTROLLER_AXIS_RIGHTX, SDL_CONTROLLER_AXIS_RIGHTY}) {
+        for (const Sint16 value : std::initializer_list<Sint16>{-30000, 0, 30000, 0}) {
+            push(axis, value);
+        }
+    }
+    for (const auto axis : {SDL_CONTROLLER_AXIS_TRIGGERLEFT, SDL_CONTROLLER_AXIS_TRIGGERRIGHT}) {
+        for (const Sint16 value : std::initializer_list<Sint16>{-32768, 30000, -32768}) {
+            push(axis, value);
+        }
+    }
     std::vector<std::string> wanted;
-    for (const Key key : {Key::Escape, Key::PreviousCommand, Key::NextCommand, Key::Options, Key::Hint}) {
+    for (const Key key :
+         {Key::Escape, Key::PreviousCommand, Key::NextCommand, Key::Options, Key::Hint, Key::F2, Key::F3,
+          Key::F5, Key::F6, Key::AltLeft, Key::AltRight, Key::PageUp, Key::PageDown, Key::F9, Key::F4}) {
         wanted.push_back("key " + std::to_string(static_cast<int>(key)));
     }
     EXPECT_EQ(story, wanted);

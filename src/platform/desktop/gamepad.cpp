@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -36,6 +37,25 @@ constexpr ButtonRow kButtons[] = {
     {SDL_CONTROLLER_BUTTON_RIGHTSHOULDER, ui::Key::NextCommand},
     {SDL_CONTROLLER_BUTTON_START, ui::Key::Options},
     {SDL_CONTROLLER_BUTTON_Y, ui::Key::Hint},
+    {SDL_CONTROLLER_BUTTON_LEFTSTICK, ui::Key::F2},
+    {SDL_CONTROLLER_BUTTON_X, ui::Key::F3},
+    {SDL_CONTROLLER_BUTTON_BACK, ui::Key::F5},
+    {SDL_CONTROLLER_BUTTON_RIGHTSTICK, ui::Key::F6},
+};
+
+// A trigger goes one way only.
+struct AxisRow {
+    SDL_GameControllerAxis axis;
+    std::optional<ui::Key> back;
+    ui::Key forth;
+};
+constexpr AxisRow kAxes[] = {
+    {SDL_CONTROLLER_AXIS_LEFTX, ui::Key::Left, ui::Key::Right},
+    {SDL_CONTROLLER_AXIS_LEFTY, ui::Key::Up, ui::Key::Down},
+    {SDL_CONTROLLER_AXIS_RIGHTX, ui::Key::AltLeft, ui::Key::AltRight},
+    {SDL_CONTROLLER_AXIS_RIGHTY, ui::Key::PageUp, ui::Key::PageDown},
+    {SDL_CONTROLLER_AXIS_TRIGGERLEFT, std::nullopt, ui::Key::F9},
+    {SDL_CONTROLLER_AXIS_TRIGGERRIGHT, std::nullopt, ui::Key::F4},
 };
 
 bool HasDevice()
@@ -112,23 +132,22 @@ void Gamepad::Start()
     }
 }
 
-// The stick as a cross: a step when it is pushed, the next one when it has been let go.
-void Gamepad::MoveStick(Uint8 axis, int value)
+// A stick is a cross, a trigger a button: a step when it is pushed, the next one when it has been let go.
+void Gamepad::MoveAxis(Uint8 axis, int value)
 {
-    const bool across = axis == SDL_CONTROLLER_AXIS_LEFTX;
-    if (!across && axis != SDL_CONTROLLER_AXIS_LEFTY) {
+    const auto* const row = std::find_if(std::begin(kAxes), std::end(kAxes),
+                                         [axis](const AxisRow& each) { return each.axis == axis; });
+    if (row == std::end(kAxes)) {
         return;
     }
-    std::optional<ui::Key>& held = held_[across ? 0 : 1];
+    bool& held = held_.at(axis);
     if (held && std::abs(value) < kLetGo) {
-        held.reset();
+        held = false;
     } else if (!held && std::abs(value) > kPushed) {
-        if (across) {
-            held = value < 0 ? ui::Key::Left : ui::Key::Right;
-        } else {
-            held = value < 0 ? ui::Key::Up : ui::Key::Down;
+        held = true;
+        if (const std::optional<ui::Key> key = value < 0 ? row->back : row->forth) {
+            hands_.Press(*key);
         }
-        hands_.Press(*held);
     }
 }
 
@@ -143,10 +162,9 @@ void Gamepad::Handle(const SDL_Event& event)
         }
     } else if (event.type == SDL_CONTROLLERDEVICEREMOVED) {
         open_.erase(event.cdevice.which);
-        held_[0].reset();
-        held_[1].reset();
+        held_ = {};
     } else if (event.type == SDL_CONTROLLERAXISMOTION) {
-        MoveStick(event.caxis.axis, event.caxis.value);
+        MoveAxis(event.caxis.axis, event.caxis.value);
     } else if (event.type == SDL_CONTROLLERBUTTONDOWN) {
         const auto* const row =
             std::find_if(std::begin(kButtons), std::end(kButtons),

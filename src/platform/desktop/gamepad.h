@@ -5,7 +5,8 @@
 //     gamepad.Handle(event);
 //
 // Cross and left stick move the focus, A presses, B leaves, the shoulders walk along the menu, Start opens the
-// options, Y asks for a hint. SDL looks at its controllers again and again as soon as its part for them is
+// options, Y asks for a hint. What is left is the voice's: the right stick reads, its press tells the keys, the
+// left one's switches it on; X repeats, Back tells how things stand, the triggers read all and hush. SDL looks at its controllers again and again as soon as its part for them is
 // started, so that is done only when the machine has one: until then a thread sleeps on the folder of devices.
 #pragma once
 
@@ -14,9 +15,9 @@
 #include <SDL2/SDL_events.h>
 #include <SDL2/SDL_gamecontroller.h>
 
+#include <array>
 #include <map>
 #include <memory>
-#include <optional>
 #include <thread>
 
 namespace platform {
@@ -38,11 +39,11 @@ private:
     };
 
     void Watch();
-    void MoveStick(Uint8 axis, int value);
+    void MoveAxis(Uint8 axis, int value);
 
     ui::Hands& hands_;
     std::map<SDL_JoystickID, std::unique_ptr<SDL_GameController, Closer>> open_;
-    std::optional<ui::Key> held_[2];  // where the stick is pushed: across, down
+    std::array<bool, SDL_CONTROLLER_AXIS_MAX> held_{};  // which are pushed
     bool started_ = false;
     Uint32 appeared_ = 0;  // the event by which the thread tells that a device has come
     int stop_ = -1;        // closed to end the thread
