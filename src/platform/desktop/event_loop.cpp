@@ -34,11 +34,11 @@ bool EventLoop::Speaking() const
     return narration_ != nullptr && narration_->Speaking();
 }
 
-// A pause waits for who is being told something.
-void EventLoop::LetTimePass()
+// A pause waits for who is being told something: also when the sentence's end is what has woken the loop.
+void EventLoop::LetTimePass(bool held)
 {
     const std::int64_t now = Now();
-    if (!desktop_.NextDue() || !Speaking()) {
+    if (!held) {
         hands_.LetTimePass(now - passed_);
     }
     passed_ = now;
@@ -101,8 +101,9 @@ void EventLoop::Run()
         }
         audio_.Update(Now());  // behind the frame, which the player is waiting for
         SDL_Event event{};
+        const bool held = desktop_.NextDue() && Speaking();
         const bool happened = SDL_WaitEventTimeout(&event, Patience()) == 1;
-        LetTimePass();
+        LetTimePass(held);
         if (happened && !host_.Ended()) {
             HandleAll(event);
         }

@@ -32,7 +32,7 @@ public:
 private:
     void HandleAll(SDL_Event& event);
     bool Speaking() const;
-    void LetTimePass();
+    void LetTimePass(bool held);
     int Patience() const;  // milliseconds to the next thing that is due; -1 when nothing is
 
     ui::Desktop& desktop_;
