@@ -1,9 +1,13 @@
 #!/usr/bin/python3
 """The game and a real Speech Dispatcher of its own, without a sound card: what is said, how soon, and when it dies.
 
+Also a session bus of its own, on which a screen reader is told to run.
+
 Its one module appends what it is told to say to a file; a second run has the real synthesiser speak to nobody.
 """
+import array
 import contextlib
+import ctypes
 import os
 import pathlib
 import signal
@@ -13,6 +17,7 @@ import subprocess
 import threading
 import time
 import unittest
+import wave
 
 import stage
 import x11
@@ -20,6 +25,7 @@ import x11
 SOON = 0.1  # seconds from a key to the dispatcher
 TABS = 9
 SLOW = "sleep 4; "
+MONTH_PAUSE = 3  # seconds behind the banner that tells the month
 
 
 def bare(lines):
@@ -92,6 +98,42 @@ class Wire(threading.Thread):
         return next((at for at, words in self.words if text in words), None)
 
 
+class Desktop(threading.Thread):
+    """Answers on the session bus like a desktop on which a screen reader runs, or does not."""
+
+    def __init__(self, address, reads):
+        super().__init__(daemon=True)
+        self.bus, self.reads, self.asked = ctypes.CDLL("libdbus-1.so.3"), reads, 0
+        for name in ("dbus_connection_open_private", "dbus_connection_pop_message", "dbus_message_new_method_return"):
+            getattr(self.bus, name).restype = ctypes.c_void_p
+        self.bus.dbus_threads_init_default()
+        self.connection = ctypes.c_void_p(self.bus.dbus_connection_open_private(address.encode(), None))
+        if not self.bus.dbus_bus_register(self.connection, None) or \
+                self.bus.dbus_bus_request_name(self.connection, b"org.a11y.Bus", 0, None) != 1:
+            raise RuntimeError("the session bus gives no name")
+        self.start()
+
+    def run(self):
+        while self.bus.dbus_connection_read_write(self.connection, -1):
+            while message := ctypes.c_void_p(self.bus.dbus_connection_pop_message(self.connection)):
+                if self.bus.dbus_message_is_method_call(message, b"org.freedesktop.DBus.Properties", b"Get"):
+                    self.asked += 1
+                    self.answer(message)
+                self.bus.dbus_message_unref(message)
+
+    def answer(self, question):
+        """With a truth value in a variant."""
+        reply = ctypes.c_void_p(self.bus.dbus_message_new_method_return(question))
+        outer, inner = (ctypes.c_void_p * 24)(), (ctypes.c_void_p * 24)()
+        self.bus.dbus_message_iter_init_append(reply, outer)
+        self.bus.dbus_message_iter_open_container(outer, ord("v"), b"b", inner)
+        self.bus.dbus_message_iter_append_basic(inner, ord("b"), ctypes.byref(ctypes.c_uint(self.reads)))
+        self.bus.dbus_message_iter_close_container(outer, inner)
+        self.bus.dbus_connection_send(self.connection, reply, None)
+        self.bus.dbus_connection_flush(self.connection)
+        self.bus.dbus_message_unref(reply)
+
+
 class Speech(stage.Case):
     def dispatcher(self, *args, **more):
         dispatcher = Dispatcher(self.scratch, *args, **more)
@@ -100,8 +142,8 @@ class Speech(stage.Case):
         self.until("the dispatcher listens", dispatcher.socket.exists)
         return dispatcher
 
-    def play(self, address):
-        game = self.game(self.server(), 7, SPEECHD_ADDRESS=f"unix_socket:{address}")
+    def play(self, address, **environment):
+        game = self.game(self.server(), 7, SPEECHD_ADDRESS=f"unix_socket:{address}", **environment)
         console = self.console()
         console.ask("seed 7")
         self.until("the title shows", lambda: game.picture() and game.picture().lit())
@@ -186,6 +228,49 @@ class Speech(stage.Case):
         empty = console.picture().crop(message)
         self.until("the message is printed", lambda: game.picture() and game.picture().crop(message) != empty)
         self.assertEqual(game.said(), "")
+
+    def test_pause_waits_and_sounds_duck(self):
+        dispatcher, heard = self.dispatcher(first="sleep 1; "), self.scratch / "heard.raw"
+        wire = Wire(self.scratch / "wire", dispatcher.socket)
+        game, _ = self.play(self.scratch / "wire", SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=str(heard))
+        game.hands("key", "F2")
+        self.until("it is told to speak", lambda: wire.came("Narration is on."))
+        game.click(stage.TITLE)
+        with wave.open(str(stage.ASSETS / "sound" / "click.wav")) as file:
+            click = array.array("h", file.readframes(file.getnframes()))
+        ducked = array.array("h", [int(sample * 32 / 128) for sample in click]).tobytes()
+        self.until("the click is heard at a quarter", lambda: heard.exists() and ducked in heard.read_bytes())
+        self.assertNotIn(click.tobytes(), heard.read_bytes())
+        for key, line in (("Return", "Your name"), ("Return", "The menu."), ("5", "in power for 2 months")):
+            if key == "5":
+                time.sleep(1.5)  # just after typing a digit is none of the menu's commands
+            game.hands("key", key)
+            self.until(f"it says {line}", lambda line=line: wire.came(line))
+        began = wire.came("in power for 2 months")
+        self.until("the month goes on", lambda: any(at > began and words == "speak\r\n" for at, words in wire.words))
+        goes_on = next(at for at, words in wire.words if at > began and words == "speak\r\n")
+        over = next((at for at, words in wire.replies if began < at < goes_on and "702 END" in words), goes_on)
+        print(f"the sentence took {over - began:.1f} s, and the month went on {goes_on - over:.1f} s behind it")
+        self.assertGreater(goes_on - over, MONTH_PAUSE - SOON, "the pause began when the sentence was over")
+
+    def test_screen_reader_is_offered_the_voice(self):
+        dispatcher = self.dispatcher()
+        address = f"unix:path={self.scratch / 'session'}"
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address={address}"],
+                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.addCleanup(lambda: (bus.kill(), bus.wait()))
+        self.until("the session bus listens", (self.scratch / "session").exists)
+        desktop = Desktop(address, reads=False)
+        game, _ = self.play(dispatcher.socket, DBUS_SESSION_BUS_ADDRESS=address)
+        self.until("the game asks", lambda: desktop.asked == 1)
+        game.hands("key", "Tab")
+        self.assertNotIn("libspeechd", self.maps(game), "who reads the screen himself is left alone")
+        game.end()
+        desktop.reads = True
+        game, _ = self.play(dispatcher.socket, DBUS_SESSION_BUS_ADDRESS=address)
+        self.until("it offers its voice", lambda: "PressF2tobegovernedbyear." in dispatcher.heard())
+        game.hands("key", "F2")
+        self.until("it speaks", lambda: "Narrationison." in dispatcher.heard())
 
     def test_real_synthesiser_ends_its_sentences(self):
         dispatcher = self.dispatcher("espeak-ng")
