@@ -199,15 +199,17 @@ std::string SaidOf(Series series, const Chronicle& chronicle)
     if (!first) {
         return {};
     }
+    const std::string_view unit = series == Series::Guerrillas ? "" : "%";
     std::string said(NameOf(series));
     said += series == Series::Popularity ? ", " : RowOf(series).factions ? ", opposition " : ", strength ";
     const std::int64_t last = *LastOf(series, chronicle);
     if (least == *most) {
-        return said + core::Digits(last) + "% all the time";
+        return said + core::Digits(last) + std::string(unit) + " all the time";
     }
     said += last > *first ? "up from " : last < *first ? "down from " : "again from ";
-    said += core::Digits(*first) + " to " + core::Digits(last) + "%";
-    return *most > std::max(*first, last) ? said + ", at most " + core::Digits(*most) + "%" : said;
+    said += core::Digits(*first) + " to " + core::Digits(last) + std::string(unit);
+    return *most > std::max(*first, last) ? said + ", at most " + core::Digits(*most) + std::string(unit)
+                                          : said;
 }
 
 std::string SaidOfMoney(const Chronicle& chronicle)

@@ -89,6 +89,7 @@ TEST(Chronicle, DrawsOnlyWhatWasReportedAndWhatTheScaleHolds)
     EXPECT_EQ(office::LastOf(Series::Guerrillas, chronicle), 8) << "the army's map tells it";
     EXPECT_EQ(office::LastOf(Series::Workers, Reign(100)), 100) << "as the report bounds it";
     EXPECT_EQ(office::SaidOf(Series::Workers, chronicle), "Workers, opposition up from 0 to 14%");
+    EXPECT_EQ(office::SaidOf(Series::Guerrillas, chronicle), "Guerrillas, strength up from 0 to 8");
     EXPECT_EQ(office::SaidOf(Series::Workers, {}), "");
     const ui::Chart money = office::MoneyOf(Reign(60));
     EXPECT_EQ(money.low, -10);

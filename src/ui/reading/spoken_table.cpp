@@ -60,7 +60,7 @@ constexpr Spoken kTable[] = {
 
     {"frmSlip",        "A slip of paper", "What the month has changed.", kWhole},
     {"frmSlip.lblValue",       "opposition {%}"},
-    {"frmSlip.lblValue(7)",    "strength {%}"},
+    {"frmSlip.lblValue(7)",    "strength {}"},
     {"frmSlip.lblChange",      "{+}"},
     {"frmSlip.Label3",         "-"},
     {"frmSlip.Label4",         "-"},
