@@ -202,7 +202,12 @@ void Game::WireOffice()
     opening_.settings = [this] { settings_.Open(); };
     settings_.onChanged = [this](const office::Settings& settings) { CarryOut(settings); };
     narrator_.onSwitched = [this](bool on) {
-        settings_.Change([on](office::Settings& settings) { settings.narration = on; });
+        if (settings_.Now().narration != on) {  // not where the sheet switched it
+            settings_.Change([on](office::Settings& settings) { settings.narration = on; });
+        }
+    };
+    narrator_.onOffered = [this] {
+        settings_.Change([](office::Settings& settings) { settings.voiceOffered = true; });
     };
     hall_.onEntered = [this](int place, const std::string& points) {
         farewell_.Print(place, points);
@@ -216,6 +221,7 @@ void Game::CarryOut(const office::Settings& settings)
     host_.SetVolume(settings.mute ? 0 : settings.volume * kWhole / office::kLoudest);
     display_.Choose(settings.fullScreen);
     desktop_.pauses = settings.pauses;
+    narrator_.offered = settings.voiceOffered;
     narrator_.Switch(settings.narration);
 }
 

@@ -271,6 +271,12 @@ class Speech(stage.Case):
         self.until("it offers its voice", lambda: "PressF2tobegovernedbyear." in dispatcher.heard())
         game.hands("key", "F2")
         self.until("it speaks", lambda: "Narrationison." in dispatcher.heard())
+        game.hands("key", "F2")
+        self.until("it is silent", lambda: "Narrationisoff." in dispatcher.heard())
+        game.end()
+        game, _ = self.play(dispatcher.socket, DBUS_SESSION_BUS_ADDRESS=address)
+        game.hands("key", "Tab")
+        self.assertEqual(desktop.asked, 2, "who has been told is not told again")
 
     def test_real_synthesiser_ends_its_sentences(self):
         dispatcher = self.dispatcher("espeak-ng")

@@ -31,7 +31,7 @@ Narration::~Narration()
 
 void Narration::OfferWhenWanted()
 {
-    if (!narrator_.On()) {
+    if (narrator_.MayOffer()) {
         AskForScreenReader([wanted = wanted_] {
             *wanted = true;
             WakeLoop();

@@ -25,7 +25,7 @@ public:
     Narration(const Narration&) = delete;
     Narration& operator=(const Narration&) = delete;
 
-    // Offers the voice to whom a screen reader reads the desktop to.
+    // Offers the voice, once for all, to whom a screen reader reads the desktop to.
     void OfferWhenWanted();
 
     bool Speaking() const;

@@ -71,9 +71,6 @@ bool Narrator::Press(ui::Key key)
     answered_ = true;
     if (on_ || key == ui::Key::F2) {
         (this->*command->run)();
-        if (key == ui::Key::F2 && onSwitched) {
-            onSwitched(on_);
-        }
     }
     return true;
 }
@@ -84,6 +81,9 @@ void Narrator::Switch(bool on)
         return;
     }
     on_ = on;
+    if (onSwitched) {
+        onSwitched(on);
+    }
     if (!on) {
         desktop_.onSettled = {};
         known_.clear();
@@ -105,8 +105,13 @@ void Narrator::Switch(bool on)
 
 void Narrator::Offer()
 {
-    if (!on_) {
-        Say({"This game can speak by itself. Press F2 to be governed by ear."}, false);
+    if (!MayOffer()) {
+        return;
+    }
+    Say({"This game can speak by itself. Press F2 to be governed by ear."}, false);
+    offered = true;
+    if (onOffered) {
+        onOffered();
     }
 }
 

@@ -33,7 +33,9 @@ public:
     void Switch(bool on);
     // A key that no control wanted. Returns whether it is one of the narrator's.
     bool Press(ui::Key key);
-    // Says it even when off: that there is a voice, and how to have it.
+    // Whether the voice may be offered: it is off and the player was never told of it.
+    bool MayOffer() const { return !on_ && !offered; }
+    // Says it although off: that there is a voice, and how to have it.
     void Offer();
     // There is nobody who could say it: told in print.
     void TellNoVoice() const;
@@ -42,8 +44,10 @@ public:
     std::function<std::vector<std::string>()> strip;
     // Prints a message where the game prints its messages.
     std::function<void(std::string_view)> report;
-    // The player has switched it on or off.
+    // It was switched on or off.
     std::function<void(bool)> onSwitched;
+    bool offered = false;
+    std::function<void()> onOffered;  // to be remembered
 
     struct Command {
         ui::Key key;
