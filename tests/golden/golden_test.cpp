@@ -3,6 +3,7 @@
 //
 // The games are played with cards and surnames of their own (cards.txt), so that they prove the rules and not the
 // balance. `tools/golden` shows what differs as a table; `tools/golden --renew` writes games.txt anew.
+#include "golden/frozen_cards.h"
 #include "golden/player.h"
 #include "persist/saved_game.h"
 
@@ -21,18 +22,12 @@ using test::TestGame;
 constexpr int kSeeds[] = {163, 237, 42, 150, 214, 254, 20, 100, 252, 280};
 constexpr int kMonths = 60;
 constexpr int kEvery = 10;
-constexpr int kNames = 121;
 // Who governs by chance does not govern for long, so only the odd seeds live as they can. The others find their
 // means restored every second month, and those that four divides every month.
 bool IsHelped(int seed, int month)
 {
     return seed % 4 == 0 || (seed % 2 == 0 && month % 2 == 1);
 }
-const test::FieldValues kGrace{{"Money", 400'000'000},
-                               {"Strength[PersonalArmy]", 90},
-                               {"Strength[Guerrillas]", 11},
-                               {"Strength[Prisoners]", 9},
-                               {"AmericanHostility", 40}};
 constexpr std::string_view kLevels[] = {"easy", "normal", "hard"};
 
 // What games.txt holds: by "seed level month" the saved values in their order.
@@ -73,34 +68,10 @@ void WriteRecords(const Records& records)
     }
 }
 
-// A program folder of cards with the frozen figures and surnames that are numbers.
-const test::TemporaryFolder& CardsFolder()
-{
-    static const test::TemporaryFolder folder;
-    std::ifstream cards("cards.txt");
-    for (std::string line; std::getline(cards, line);) {
-        std::istringstream words(line);
-        std::string name;
-        std::string figures;
-        words >> name;
-        for (std::string figure; words >> figure;) {
-            figures += figure + "\r\n";
-        }
-        const bool offer = name.front() == 'R';
-        folder.Write("Actions/" + name, offer ? "\"offer\"\r\n" + figures
-                                              : figures + "\"title\"\r\n\"effects\"\r\n\"result\"\r\n");
-    }
-    std::string names;
-    for (int i = 1; i <= kNames; ++i) {
-        names += "\"N" + std::to_string(i) + "\"\r\n";
-    }
-    folder.Write("data/names", names);
-    return folder;
-}
-
 Records PlayOne(int seed, core::Level level)
 {
-    static const test::TemporaryFolder& folder = CardsFolder();
+    const test::TemporaryFolder folder;
+    test::FreezeCards(folder);
     TestGame game{files::ProgramFolder(folder.Path())};
     game.game.GetChance().Seed(static_cast<std::uint64_t>(seed));
     game.StartGame(level);
@@ -112,7 +83,7 @@ Records PlayOne(int seed, core::Level level)
     };
     for (int month = 1; month <= kMonths && !player.Fallen(); ++month) {
         if (IsHelped(seed, month)) {
-            game.Set(kGrace);
+            game.Set(test::kGrace);
         }
         player.GovernAMonth();
         if (month % kEvery == 0 && !player.Fallen()) {
