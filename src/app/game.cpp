@@ -206,6 +206,8 @@ void Game::WireOffice()
             settings_.Change([on](office::Settings& settings) { settings.narration = on; });
         }
     };
+    desktop_.onAttend = [this](const ui::Control* control, bool asked) { hints_.Attend(control, asked); };
+    hints_.say = [this](const std::string& line) { narrator_.Answer(line); };
     narrator_.onOffered = [this] {
         settings_.Change([](office::Settings& settings) { settings.voiceOffered = true; });
     };
@@ -221,6 +223,7 @@ void Game::CarryOut(const office::Settings& settings)
     host_.SetVolume(settings.mute ? 0 : settings.volume * kWhole / office::kLoudest);
     display_.Choose(settings.fullScreen);
     desktop_.pauses = settings.pauses;
+    hints_.on = settings.hints;
     narrator_.offered = settings.voiceOffered;
     narrator_.Switch(settings.narration);
 }

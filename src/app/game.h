@@ -34,6 +34,7 @@
 #include "office/backdrop.h"
 #include "office/chronicle.h"
 #include "office/farewell.h"
+#include "office/hints.h"
 #include "office/margin.h"
 #include "office/settings_sheet.h"
 #include "office/slip.h"
@@ -207,6 +208,7 @@ private:
     // What stands beside the game.
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
     office::Margin margin_{state_, desktop_, screens_, format_};
+    office::Hints hints_{state_, screens_, format_};
     office::Slip slip_{state_, journal_, screens_, desktop_, format_};
     office::ChronicleSheet chronicle_{state_, screens_.frmChronicle, sound_, written_, format_};
     office::SettingsSheet settings_{screens_.frmSettings, sound_};

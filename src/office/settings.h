@@ -24,6 +24,7 @@ struct Settings {
     bool mute = false;
     bool fullScreen = true;
     ui::Pauses pauses = ui::Pauses::Full;
+    bool hints = true;
     bool narration = false;
     bool voiceOffered = false;  // whoever has a screen reader is told once that the game can speak
     // Where the window was left, in pixels of the desktop; no width: never told.

@@ -28,6 +28,7 @@ constexpr std::array<Choice, screens::kSettingRows> kChoices{{
      },
      [](const Settings& s) { return kPauses.at(static_cast<std::size_t>(s.pauses)); }},
     {[](Settings& s) { s.narration = !s.narration; }, [](const Settings& s) { return OnOff(s.narration); }},
+    {[](Settings& s) { s.hints = !s.hints; }, [](const Settings& s) { return OnOff(s.hints); }},
 }};
 
 }  // namespace

@@ -177,10 +177,10 @@ void Input::HandleMotion(int x, int y)
     const Viewport view = frame_.View();
     if (view.Contains(x, y) || pressed_) {  // a selection may be drawn out beyond the picture
         pointer_ = view.ToPicture(x, y);
-        desktop_.PointerMove(*pointer_, caretAt_);
+        hands_.PointerMove(*pointer_, caretAt_);
     } else {
         pointer_.reset();
-        desktop_.PointerLeave();
+        hands_.PointerLeave();
     }
 }
 
@@ -199,7 +199,7 @@ void Input::HandleButton(const SDL_MouseButtonEvent& event)
         pressed_ = false;
     } else if (view.Contains(event.x, event.y)) {
         pressed_ = true;
-        desktop_.PointerMove(at, caretAt_);  // a touch comes without having moved there
+        hands_.PointerMove(at, caretAt_);  // a touch comes without having moved there
         hands_.PointerDown(at, event.clicks, (SDL_GetModState() & KMOD_SHIFT) != 0, caretAt_);
     }
 }
@@ -240,7 +240,7 @@ void Input::HandleWindow(const SDL_WindowEvent& event)
     switch (event.event) {
     case SDL_WINDOWEVENT_LEAVE:
         pointer_.reset();
-        desktop_.PointerLeave();
+        hands_.PointerLeave();
         break;
     case SDL_WINDOWEVENT_EXPOSED:
     case SDL_WINDOWEVENT_SIZE_CHANGED:

@@ -235,6 +235,9 @@ SDL_Rect Painter::Paint(const ui::Desktop& desktop, SDL_Surface& surface, const 
     for (const ui::Form* form : desktop.Shown()) {
         PaintForm(brush, desktop, *form);
     }
+    if (desktop.Note() != nullptr) {
+        PaintForm(brush, desktop, *desktop.Note());
+    }
     return everything ? SDL_Rect{0, 0, surface.w, surface.h} : canvas.Clip();
 }
 

@@ -55,6 +55,13 @@ std::string List(const std::vector<std::string_view>& names)
     return list;
 }
 
+constexpr std::int64_t kThrows = 30;
+bool ThrowEscapes(const GameState& state, std::int64_t thrown)
+{
+    const std::int64_t luck = thrown + state.Strength[core::PersonalArmy];
+    return core::Real(state.RevolutionaryStrength) / 10 <= core::Real(luck);
+}
+
 }  // namespace
 
 void DrawRevolution(GameState& state, core::Chance& chance)
@@ -97,8 +104,16 @@ std::string RevolutionMessage(const GameState& state)
 
 bool HelicopterEscapes(const GameState& state, core::Chance& chance)
 {
-    const std::int64_t luck = chance.Between(1, 30) + state.Strength[core::PersonalArmy];
-    return core::Real(state.RevolutionaryStrength) / 10 <= core::Real(luck);
+    return ThrowEscapes(state, chance.Between(1, kThrows));
+}
+
+std::int64_t ThrowsThatEscape(const GameState& state)
+{
+    std::int64_t throws = 0;
+    for (std::int64_t thrown = 1; thrown <= kThrows; ++thrown) {
+        throws += ThrowEscapes(state, thrown) ? 1 : 0;
+    }
+    return throws;
 }
 
 bool WalkEscapes(core::Chance& chance)

@@ -23,6 +23,8 @@ std::string RevolutionMessage(const core::GameState& state);
 
 // By helicopter it fails when RevolutionaryStrength / 10 is greater than a draw of 1 .. 30 plus the personal
 // army's Strength; on foot one draw in ten, a 2 of 1 .. 10, leads across the frontier.
+// Of thirty throws, those with which the helicopter arrives.
+std::int64_t ThrowsThatEscape(const core::GameState& state);
 bool HelicopterEscapes(const core::GameState& state, core::Chance& chance);
 bool WalkEscapes(core::Chance& chance);
 

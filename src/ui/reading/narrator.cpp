@@ -141,6 +141,13 @@ void Narrator::SayNow(const std::string& line)
     Say(Lines(line), true);
 }
 
+void Narrator::Answer(const std::string& line)
+{
+    if (on_) {
+        SayNow(line);
+    }
+}
+
 // What happens ------------------------------------------------------------------------------------------------
 
 void Narrator::Remember()

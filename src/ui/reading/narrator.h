@@ -37,6 +37,8 @@ public:
     bool MayOffer() const { return !on_ && !offered; }
     // Says it although off: that there is a voice, and how to have it.
     void Offer();
+    // What the player has asked elsewhere, at once.
+    void Answer(const std::string& line);
     // There is nobody who could say it: told in print.
     void TellNoVoice() const;
 

@@ -108,6 +108,7 @@ constexpr Spoken kTable[] = {
     {"frmSettings.cmdValue(1)", "Screen: {}, press for the next one"},
     {"frmSettings.cmdValue(2)", "Pauses: {}, press for the next one"},
     {"frmSettings.cmdValue(3)", "Narration: {}, press for the next one"},
+    {"frmSettings.cmdValue(4)", "Hints: {}, press for the next one"},
 
     // The menu and the keys. -----------------------------------------------------------------------------------------
     {"frmMain.Label5(0)", "Presidential actions, key 1"},

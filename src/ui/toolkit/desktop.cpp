@@ -53,6 +53,9 @@ void Desktop::PutOwnAway()
             form.Hide();
         }
     }
+    if (note_ != nullptr) {
+        note_->Hide();
+    }
 }
 
 void Desktop::Use(const Form& form)
@@ -70,6 +73,10 @@ void Desktop::Use(const Form& form)
 void Desktop::BringToFront(Form& form)
 {
     const Form::Design& design = form.GetDesign();
+    if (design.note) {
+        note_ = &form;
+        return;
+    }
     if (!design.own && !design.backdrop) {
         PutOwnAway();
     }
@@ -97,6 +104,7 @@ void Desktop::BringToFront(Form& form)
 
 void Desktop::Remove(Form& form)
 {
+    note_ = note_ == &form ? nullptr : note_;
     shown_.erase(std::remove(shown_.begin(), shown_.end(), &form), shown_.end());
     const auto belongs = [&form](const Control* control) {
         return control != nullptr && &control->GetForm() == &form;
@@ -293,6 +301,22 @@ Control* Desktop::ControlAt(const Form& form, Point at)
                (control->onClick || control->onHover || control->Now().tabStop);
     };
     const auto it = std::find_if(controls.rbegin(), controls.rend(), hit);
+    return it == controls.rend() ? nullptr : *it;
+}
+
+const Control* Desktop::SeenAt(Point at) const
+{
+    const Form* form = FormAt(at);
+    if (form == nullptr) {
+        return nullptr;
+    }
+    if (const Control* control = ControlAt(*form, at)) {
+        return control;
+    }
+    const std::vector<Control*>& controls = form->Controls();
+    const auto it = std::find_if(controls.rbegin(), controls.rend(), [at](const Control* control) {
+        return control->Now().visible && control->Place().Contains(at);
+    });
     return it == controls.rend() ? nullptr : *it;
 }
 

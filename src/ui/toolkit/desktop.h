@@ -101,6 +101,7 @@ public:
     // Screens -------------------------------------------------------------------------------------
     const std::vector<Form*>& Forms() const { return forms_; }  // all that exist
     const std::vector<Form*>& Shown() const { return shown_; }  // back to front
+    const Form* Note() const { return note_; }                  // in front of them all, or null
     Form* FindForm(std::string_view name) const;
     Control* FindControl(std::string_view name) const;      // "frmMain.Label5(4)"; null when there is none
     bool TakesInput(const Form& form) const;                // shown, enabled, and behind no modal screen
@@ -139,9 +140,14 @@ public:
     // To the next button of the front screen whose caption begins with that letter.
     void JumpTo(char32_t letter);
     PointerShape ShapeAt(Point at) const;
+    // The control there that does something, else the front one that is to be seen; null on the bare ground.
+    const Control* SeenAt(Point at) const;
 
     // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
     std::function<bool(Key)> onKey;
+    // The player looks at a control: the pointer rests on it, or the focus has come to it by a key. Null: no more.
+    // `asked`: he has pressed the key for it.
+    std::function<void(const Control*, bool asked)> onAttend;
     // After everything that happened, when all that it left to do is done: for who tells what is shown. Only reads.
     std::function<void(Cause)> onSettled;
 
@@ -211,6 +217,7 @@ private:
 
     std::vector<Form*> forms_;
     std::vector<Form*> shown_;
+    Form* note_ = nullptr;
     std::vector<std::function<void()>> pending_;
     int depth_ = 0;
     Cause cause_ = Cause::Player;

@@ -96,7 +96,13 @@ void Form::Present(bool modal)
     visible_ = true;
     ++showings_;
     stage_.BringToFront(*this);
-    stage_.MarkDirty(kSpace);  // a screen that comes or goes may change what others show
+    MarkAll();
+}
+
+// A screen that comes or goes may change what others show; a note does not.
+void Form::MarkAll() const
+{
+    stage_.MarkDirty(design_.note ? rect_ : kSpace);
 }
 
 void Form::Show()
@@ -115,7 +121,7 @@ void Form::Hide()
     if (!visible_) {
         return;
     }
-    stage_.MarkDirty(kSpace);
+    MarkAll();
     visible_ = false;
     modal_ = false;
     stage_.Remove(*this);

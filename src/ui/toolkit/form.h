@@ -37,6 +37,8 @@ public:
         // screen is used or comes, and takes the focus only when it names a control for it.
         bool own = false;
         bool fixture = false;  // an own screen that stays, right in front of the backdrop
+        bool note =
+            false;  // a line for who rests on something: in front of all screens and none of them (Desktop::Note)
     };
 
     Form(Stage& stage, const Design& design);
@@ -92,6 +94,7 @@ private:
 
     void Present(bool modal);
     void MarkDirty() const;
+    void MarkAll() const;
 
     Stage& stage_;
     Design design_;

@@ -1,6 +1,7 @@
 #include "ui/toolkit/hands.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ui {
 
@@ -9,7 +10,8 @@ namespace {
 constexpr std::int64_t kAfterTyping = 1000;  // ms: an amount that is typed again must not end the month
 
 constexpr std::int64_t kRead = 1000;  // ms that a pause lasts at least: nobody ends one that he has not seen
-constexpr std::int64_t kShortly = 3;  // a short pause is a third of a full one
+constexpr std::int64_t kCurious = 500;  // ms on one thing: he wants to know what it is
+constexpr std::int64_t kShortly = 3;    // a short pause is a third of a full one
 
 bool EndsPauses(Key key)
 {
@@ -70,12 +72,17 @@ bool Hands::CommandsMenu(Modifiers modifiers) const
 void Hands::Press(Key key, Modifiers modifiers)
 {
     NoteTyping();
+    if (key == Key::Hint) {
+        Attend(desktop_.ShowsFocus() || watched_ == nullptr ? desktop_.Focused() : watched_, true);
+        return;
+    }
     if (EndsPauses(key) && desktop_.PauseEnd()) {
         EndPause();
         return;
     }
     if (!IsDigit(key) || desktop_.FocusedTextBox() != nullptr || CommandsMenu(modifiers)) {
         desktop_.Press(key, modifiers);
+        Attend(desktop_.ShowsFocus() ? desktop_.Focused() : nullptr);
     }
 }
 
@@ -105,12 +112,61 @@ void Hands::PointerDown(Point at, int clicks, bool shift, const Desktop::CaretAt
         return;
     }
     desktop_.PointerDown(at, clicks, shift, caretAt);
+    LookAgain();
 }
 
 void Hands::PointerUp(Point at)
 {
     NoteTyping();
     desktop_.PointerUp(at);
+    Watch(desktop_.SeenAt(at));
+    LookAgain();
+}
+
+void Hands::PointerMove(Point at, const Desktop::CaretAt& caretAt)
+{
+    desktop_.PointerMove(at, caretAt);
+    Watch(desktop_.SeenAt(at));
+}
+
+void Hands::PointerLeave()
+{
+    desktop_.PointerLeave();
+    Watch(nullptr);
+}
+
+void Hands::Watch(const Control* control)
+{
+    if (std::exchange(watched_, control) != control) {
+        rested_ = 0;
+        Attend(nullptr);
+    }
+}
+
+// What was pressed may have put the words away, or changed the figures in them.
+void Hands::LookAgain()
+{
+    if (attended_ != nullptr) {
+        Attend(attended_ == watched_ ? watched_ : nullptr);
+    }
+}
+
+void Hands::Rest(std::int64_t milliseconds)
+{
+    const bool curious = rested_ < kCurious;
+    rested_ = std::min(rested_ + milliseconds, kCurious);
+    if (watched_ != nullptr && curious && rested_ == kCurious) {
+        Attend(watched_);
+    }
+}
+
+void Hands::Attend(const Control* control, bool asked)
+{
+    const bool news = control != nullptr || attended_ != nullptr;
+    attended_ = control;
+    if (desktop_.onAttend && news) {
+        desktop_.onAttend(control, asked);
+    }
 }
 
 void Hands::EndPause()
@@ -122,6 +178,7 @@ void Hands::EndPause()
 
 void Hands::LetTimePass(std::int64_t milliseconds)
 {
+    Rest(milliseconds);
     const std::optional<std::int64_t> end = desktop_.PauseEnd();
     if (!end) {
         desktop_.Advance(milliseconds);
@@ -142,6 +199,15 @@ void Hands::LetTimePass(std::int64_t milliseconds)
 }
 
 std::optional<std::int64_t> Hands::Patience() const
+{
+    const std::optional<std::int64_t> timers = TimersPatience();
+    if (watched_ == nullptr || rested_ == kCurious || !desktop_.onAttend) {
+        return timers;
+    }
+    return std::min(timers.value_or(kCurious), kCurious - rested_);
+}
+
+std::optional<std::int64_t> Hands::TimersPatience() const
 {
     const std::optional<std::int64_t> due = desktop_.NextDue();
     const bool pause = desktop_.PauseEnd().has_value();
