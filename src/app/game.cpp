@@ -4,6 +4,7 @@
 #include "month/banner.h"
 #include "office/strip_words.h"
 
+#include <tuple>
 #include <utility>
 
 Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, core::NumberFormat format)
@@ -105,6 +106,7 @@ void Game::WireShell()
     savedGames_.onSaved = [this](std::string_view file) {
         if (continuation_.Keeps()) {
             chronicle_.Keep(file);
+            std::ignore = savedGames_.NotePresident(file);  // the game itself is safe
         }
     };
     continuation_.beginGame = [this] { opening_.BeginGame(); };
@@ -120,6 +122,9 @@ void Game::WireShell()
     month_.OnClosed([this](const month::Closed& closed) {
         if (!closed.gameOver) {
             chronicle_.MonthClosed(closed.notes);
+            if (guide_.firstSteps && guide_.KnowsTheWay()) {
+                settings_.Change([](office::Settings& settings) { settings.firstSteps = false; });
+            }
             continuation_.MonthClosed();
         }
     });
@@ -182,7 +187,11 @@ void Game::WireKeys()
         }
         if (key >= ui::Key::Digit1 && key <= ui::Key::Digit6) {
             const int item = static_cast<int>(key) - static_cast<int>(ui::Key::Digit1);
-            return !desktop_.Click(screens_.frmMain.Label5[item]);
+            const bool refused = desktop_.Click(screens_.frmMain.Label5[item]).has_value();
+            if (refused) {
+                SayWhyNot();
+            }
+            return !refused;
         }
         // Nothing has the focus after a refusal, or the item of the menu that the pointer pressed long ago.
         return key == ui::Key::Return && free && bank_.ComeBack();
@@ -196,6 +205,7 @@ void Game::WireOffice()
         margin_.Refresh();
         slip_.Refresh();
         strip_.Refresh();
+        hints_.Refresh();
     };
     options_.chronicle = [this] { chronicle_.Open(); };
     options_.settings = [this] { settings_.Open(); };
@@ -205,6 +215,15 @@ void Game::WireOffice()
         if (settings_.Now().narration != on) {  // not where the sheet switched it
             settings_.Change([on](office::Settings& settings) { settings.narration = on; });
         }
+    };
+    strip_.guide = [this] { return guide_.Line(); };
+    desktop_.onRefused = [this](const ui::Form& form) {
+        if (&form == &screens_.frmMain) {
+            SayWhyNot();
+        }
+    };
+    manual_.readHere = [this](const std::filesystem::path& file, std::string_view chapter) {
+        handbook_.Open(file, chapter);
     };
     desktop_.onAttend = [this](const ui::Control* control, bool asked) { hints_.Attend(control, asked); };
     hints_.say = [this](const std::string& line) { narrator_.Answer(line); };
@@ -217,6 +236,21 @@ void Game::WireOffice()
     };
 }
 
+// On the strip, or where it is covered in the line of the hints; and by ear.
+void Game::SayWhyNot()
+{
+    if (!screens_.frmMain.Visible()) {
+        return;
+    }
+    const std::string line = guide_.WhyNot();
+    if (strip_.Shown()) {
+        strip_.Say(line);
+    } else {
+        hints_.Tell(line);
+    }
+    narrator_.Answer(line);
+}
+
 void Game::CarryOut(const office::Settings& settings)
 {
     constexpr int kWhole = 100;
@@ -224,6 +258,7 @@ void Game::CarryOut(const office::Settings& settings)
     display_.Choose(settings.fullScreen);
     desktop_.pauses = settings.pauses;
     hints_.on = settings.hints;
+    guide_.firstSteps = settings.firstSteps;
     narrator_.offered = settings.voiceOffered;
     narrator_.Switch(settings.narration);
 }

@@ -34,6 +34,8 @@
 #include "office/backdrop.h"
 #include "office/chronicle.h"
 #include "office/farewell.h"
+#include "office/guide.h"
+#include "office/handbook.h"
 #include "office/hints.h"
 #include "office/margin.h"
 #include "office/settings_sheet.h"
@@ -101,6 +103,7 @@ private:
     void WireShell();
     void WireKeys();
     void WireOffice();
+    void SayWhyNot();
     void CarryOut(const office::Settings& settings);
     void ListRoutines();
 
@@ -209,6 +212,8 @@ private:
     office::StatusStrip strip_{state_, desktop_, screens_, format_};
     office::Margin margin_{state_, desktop_, screens_, format_};
     office::Hints hints_{state_, screens_, format_};
+    office::Guide guide_{state_, desktop_, month_, screens_};
+    office::HandbookSheet handbook_{screens_.frmHandbook, sound_};
     office::Slip slip_{state_, journal_, screens_, desktop_, format_};
     office::ChronicleSheet chronicle_{state_, screens_.frmChronicle, sound_, written_, format_};
     office::SettingsSheet settings_{screens_.frmSettings, sound_};

@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <array>
 #include <cerrno>
+#include <ctime>
 #include <utility>
 
 namespace files {
@@ -62,6 +64,18 @@ Result<bool> WrittenFiles::Has(std::string_view file) const
 {
     const Result<fs::path> place = Place(file);
     return place ? Exists(*place, file) : place.Error();
+}
+
+std::string WrittenFiles::WrittenOn(std::string_view file) const
+{
+    const Result<fs::path> place = Place(file);
+    struct stat found {};
+    std::tm day{};
+    if (!place || system_.Look(place->c_str(), found) != 0 || localtime_r(&found.st_mtime, &day) == nullptr) {
+        return {};
+    }
+    std::array<char, sizeof "-2147483648-12-31"> text{};
+    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d", &day)};
 }
 
 Result<std::string> WrittenFiles::ReadWhole(std::string_view file) const

@@ -61,6 +61,8 @@ public:
     Result<bool> Has(std::string_view file) const;
     Result<std::vector<Item>> Read(std::string_view file) const;
     Result<std::string> ReadWhole(std::string_view file) const;
+    // "2026-11-23", by the clock on the wall; empty where nobody knows.
+    std::string WrittenOn(std::string_view file) const;
 
     // Of the folder in which the file is written; it is made where it is missing. The program folder itself is
     // not: one that has vanished was moved or unplugged, and its files with it.

@@ -44,6 +44,7 @@ public:
     bool IsOpen() const { return open_; }
     // Somebody's question stands; what he does meanwhile: "The landowners are still in the room."
     void Ask(std::string_view whoWaits) { whoWaits_ = whoWaits; }
+    std::string_view WhoWaits() const { return whoWaits_; }
 
     void TakeMenu() { main_.SetEnabled(false); }
     void Close();

@@ -1,7 +1,7 @@
 // The hints that count: what a step, a chief or a flight comes to as the record stands. One sentence or two each.
 #pragma once
 
-#include "office/hint_table.h"
+#include "office/hint_question.h"
 
 #include <string>
 

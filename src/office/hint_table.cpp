@@ -161,6 +161,9 @@ constexpr Row kTable[] = {
     {"frmSlip.lblMoney*",   "Treasury and coming balance, and how they moved since the month before."},
     {"frmFarewell.Command1", "Puts the page away. The hall of fame lies behind it."},
     {"frmFarewell.lbl*",     "The last page of El Faro. A click or a key puts it away."},
+    {"frmHandbook.cmdBack",   "A page back."},
+    {"frmHandbook.cmdOn",     "A page on."},
+    {"frmHandbook.cmdClose",  "Back to where you were. Key Escape."},
     {"frmChronicle.lblName",  "The name above a graph of opposition. The line that is drawn across it is 56."},
     {"frmChronicle.lblValue", "Opposition at the last close. 56: joins. 65: plots. 66: begins."},
     {"frmChronicle.cmdNewer", "Later months of the log."},
@@ -172,7 +175,7 @@ constexpr Row kTable[] = {
     // The settings.
     {"frmSettings.cmdLess",     "Quieter."},
     {"frmSettings.cmdMore",     "Louder."},
-    {"frmSettings.lblVolume",   "From 0, a discreet presidency, to 10."},
+    {"frmSettings.lblVolume",   "From 0, a quiet presidency, to 10."},
     {"frmSettings.cmdValue(0)", "No sound at all, whatever the volume."},
     {"frmSettings.cmdValue(1)", "Full screen, or a window. F11 changes it for now; this, for good."},
     {"frmSettings.cmdValue(2)", "Full, a third, or until you press. Any pause can be ended after its first second."},

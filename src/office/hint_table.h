@@ -6,19 +6,11 @@
 // that the president could not know.
 #pragma once
 
-#include "core/game_state.h"
-#include "core/numbers.h"
-#include "ui/toolkit/control.h"
+#include "office/hint_question.h"
 
 #include <string>
 
 namespace office {
-
-struct Question {
-    const ui::Control& control;
-    const core::GameState& state;
-    const core::NumberFormat& format;
-};
 
 // One line of at most kLongestHint letters; empty where there is nothing to say.
 std::string HintFor(const Question& question);

@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace office {
 
@@ -22,6 +23,10 @@ public:
     bool on = true;  // off: only who asks is told
     // Null: he has looked away.
     void Attend(const ui::Control* control, bool asked);
+    // A line in the same place, until something else is looked at.
+    void Tell(std::string_view line);
+    // Follows the strip, which comes and goes.
+    void Refresh();
 
     std::function<void(const std::string&)> say;
 

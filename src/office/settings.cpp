@@ -32,6 +32,7 @@ constexpr Row kTable[] = {
     {"pauses", 0, 2, kPauses, [](const Settings& s) { return static_cast<int>(s.pauses); }, [](Settings& s, int v) { s.pauses = static_cast<ui::Pauses>(v); }},
     {"narration", 0, 1, kOffOn, [](const Settings& s) { return int{s.narration}; }, [](Settings& s, int v) { s.narration = v != 0; }},
     {"hints", 0, 1, kOffOn, [](const Settings& s) { return int{s.hints}; }, [](Settings& s, int v) { s.hints = v != 0; }},
+    {"first-steps", 0, 1, kOffOn, [](const Settings& s) { return int{s.firstSteps}; }, [](Settings& s, int v) { s.firstSteps = v != 0; }},
     {"voice-offered", 0, 1, kOffOn, [](const Settings& s) { return int{s.voiceOffered}; }, [](Settings& s, int v) { s.voiceOffered = v != 0; }},
     {"window-left", -kFarthest, kFarthest, {}, [](const Settings& s) { return s.window.left; }, [](Settings& s, int v) { s.window.left = v; }},
     {"window-top", -kFarthest, kFarthest, {}, [](const Settings& s) { return s.window.top; }, [](Settings& s, int v) { s.window.top = v; }},

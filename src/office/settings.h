@@ -26,6 +26,7 @@ struct Settings {
     ui::Pauses pauses = ui::Pauses::Full;
     bool hints = true;
     bool narration = false;
+    bool firstSteps = false;    // the player's first game: he is told where to look
     bool voiceOffered = false;  // whoever has a screen reader is told once that the game can speak
     // Where the window was left, in pixels of the desktop; no width: never told.
     ui::Rect window{};

@@ -22,7 +22,7 @@ SettingsText SettingsFile::Read() const
     std::error_code error;
     if (path == kFile ||
         std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found) {
-        return {};
+        return {.settings = {.firstSteps = true}};
     }
     const files::Result<std::string> content = files::ReadWhole(system_, path, path.string());
     return content ? ParseSettings(*content, path.string()) : SettingsText{{}, {content.Error()}};

@@ -16,7 +16,8 @@ namespace office {
 
 class SettingsFile {
 public:
-    // An empty folder is that of a user without a home: nothing is read, and writing fails.
+    // An empty folder is that of a user without a home: nothing is read, and writing fails. Who has no file yet
+    // is new here.
     explicit SettingsFile(std::filesystem::path folder);
 
     SettingsText Read() const;

@@ -54,7 +54,9 @@ std::vector<ui::Rect> WarningPlaces(std::vector<Warning>& warnings)
 
 void StatusStrip::Say(std::string_view line)
 {
+    said_ = line;
     saidAt_ = desktop_.Uses();
+    waited_ = !desktop_.TakesInput(screens_.frmMain);
     screens_.frmStrip.lblLine.SetText(line);
 }
 
@@ -80,9 +82,10 @@ void StatusStrip::Refresh()
     if (!strip.Visible()) {
         strip.Show();
     }
-    if (desktop_.Uses() != saidAt_) {
-        strip.lblLine.SetText("");
+    if (desktop_.Uses() != saidAt_ || (waited_ && desktop_.TakesInput(screens_.frmMain))) {
+        said_.clear();
     }
+    strip.lblLine.SetText(!said_.empty() ? said_ : guide ? guide() : std::string_view());
     const Strip facts = StripOf(state_);
     ShowFigures(facts);
     ShowFavour(facts);
@@ -122,9 +125,9 @@ void StatusStrip::ShowFavour(const Strip& facts)
 void StatusStrip::ShowWarnings(Strip facts)
 {
     screens::FrmStrip& strip = screens_.frmStrip;
-    const bool quiet = strip.lblLine.Text().empty() || strip.lblLine.Text() == kCalm;
-    if (quiet) {
-        strip.lblLine.SetText(facts.warnings.empty() ? kCalm : "");
+    const bool quiet = strip.lblLine.Text().empty();
+    if (quiet && facts.warnings.empty()) {
+        strip.lblLine.SetText(kCalm);
     }
     const std::vector<ui::Rect> places = WarningPlaces(facts.warnings);
     for (int i = 0; i < kStripWarnings; ++i) {

@@ -10,6 +10,8 @@
 #include "ui/toolkit/desktop.h"
 
 #include <cstdint>
+#include <functional>
+#include <string>
 #include <string_view>
 
 namespace office {
@@ -27,6 +29,10 @@ public:
     // One line of help or of refusal in the warnings' place, until the player uses a screen. At most about ninety
     // letters.
     void Say(std::string_view line);
+    // What else is said there; empty: nothing.
+    std::function<std::string_view()> guide;
+    // Whether there is a place to say it.
+    bool Shown() const { return screens_.frmStrip.Visible(); }
 
 private:
     bool HasThePlace() const;
@@ -38,7 +44,9 @@ private:
     const ui::Desktop& desktop_;
     screens::Screens& screens_;
     const core::NumberFormat& format_;
+    std::string said_;
     std::uint64_t saidAt_ = 0;  // Desktop::Uses when the line was said
+    bool waited_ = false;       // the menu did not answer then
 };
 
 }  // namespace office

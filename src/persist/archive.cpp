@@ -12,6 +12,11 @@ namespace {
 
 constexpr std::string_view kNames = "Save/names";
 
+std::string PresidentFile(std::string_view savedGame)
+{
+    return std::string(savedGame) + ".president";
+}
+
 }  // namespace
 
 std::string SlotFile(std::int64_t slot)
@@ -46,6 +51,34 @@ files::Result<core::GameState> Archive::Load(std::int64_t slot, const core::Game
         return items.Error();
     }
     return ReadSavedGame(*items, file, state);
+}
+
+std::optional<Archive::Note> Archive::About(std::int64_t slot) const
+{
+    const std::string file = SlotFile(slot);
+    const files::Result<bool> there = files_.Has(file);
+    if (!there || !*there) {
+        return std::nullopt;
+    }
+    const files::Result<core::GameState> state = Load(slot, core::GameState{});
+    if (!state) {
+        return std::nullopt;
+    }
+    Note note{{}, state->MonthsInPower, state->Difficulty, files_.WrittenOn(file)};
+    const files::Result<bool> known = files_.Has(PresidentFile(file));
+    if (known && *known) {
+        const files::Result<std::vector<files::Item>> items = files_.Read(PresidentFile(file));
+        note.president = items && items->size() == 1 ? items->front().text : std::string();
+    }
+    return note;
+}
+
+files::Failure Archive::NotePresident(std::string_view savedGame, const std::string& name) const
+{
+    const std::string file = PresidentFile(savedGame);
+    const files::Result<files::FolderLock> lock = files_.Lock(file);
+    return lock ? files_.Replace(*lock, file, files::Text(name) + std::string(files::kLineEnd))
+                : lock.Error();
 }
 
 files::Result<std::optional<SlotNames>> Archive::Names() const
@@ -131,6 +164,7 @@ std::vector<std::string> Archive::Files()
         names.push_back(SlotFile(slot));
         names.push_back(files::SumFile(names.back()));
         names.push_back(ChronicleFile(SlotFile(slot)));
+        names.push_back(PresidentFile(SlotFile(slot)));
     }
     return names;
 }

@@ -32,6 +32,17 @@ public:
     // player edits is his own affair; he only ought to know.
     bool Altered(std::int64_t slot) const;
 
+    // For the screens: who governs in the saved game, and when it was written. None where there is none to be read.
+    struct Note {
+        std::string president;  // empty when nobody has written it down
+        std::int64_t months;
+        std::int64_t level;  // a core::Level
+        std::string date;    // "2026-11-23"
+    };
+    std::optional<Note> About(std::int64_t slot) const;
+    // The name is none of what a saved game holds; it lies beside it, in Save1.president.
+    files::Failure NotePresident(std::string_view savedGame, const std::string& name) const;
+
     // None where no names were given yet.
     files::Result<std::optional<SlotNames>> Names() const;
     // Makes an empty file of names where there is none, and the archive's folder with it.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <system_error>
+#include <utility>
 
 namespace shell {
 
@@ -46,7 +47,11 @@ std::string Manual::Open()
         return Tell("Mr.President, the manual was expected at " + path.string() +
                     " and is not there. Nobody had read it, so nobody is missing anything.");
     }
-    host_.OpenDocument(kManual, ChapterOf(desktop_));
+    const std::string_view chapter = ChapterOf(desktop_);
+    host_.OpenDocument(kManual, chapter);
+    if (std::exchange(openedAt_, desktop_.Uses()) == desktop_.Uses() && readHere) {
+        readHere(path, chapter);
+    }
     return Tell("Mr.President, your manual lies at " + path.string());
 }
 

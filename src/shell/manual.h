@@ -11,7 +11,12 @@
 #include "ui/screens/frm_start.h"
 #include "ui/toolkit/desktop.h"
 
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace shell {
 
@@ -27,6 +32,8 @@ public:
     {}
 
     std::string Open();  // what was told
+    // Asked for once more, with nothing done since: no viewer has come up.
+    std::function<void(const std::filesystem::path& file, std::string_view chapter)> readHere;
 
 private:
     std::string Tell(std::string text);
@@ -35,6 +42,7 @@ private:
     media::Host& host_;
     const ui::Desktop& desktop_;
     Screens screens_;
+    std::optional<std::uint64_t> openedAt_{};  // Desktop::Uses when it was opened
 };
 
 }  // namespace shell

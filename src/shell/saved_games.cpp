@@ -1,5 +1,7 @@
 #include "shell/saved_games.h"
 
+#include "core/names.h"
+#include "core/short_text.h"
 #include "month/banner.h"
 #include "shell/figures.h"
 
@@ -11,6 +13,8 @@ namespace {
 
 constexpr std::string_view kNoSlot =
     "Mr.President, the archive has five slots and waits until you point at one. Nothing was ";
+
+constexpr std::size_t kLongestName = 30;  // of a president, beside his months
 
 constexpr std::string_view kAltered = "The archive remembers it otherwise. Load it all the same?";
 
@@ -167,6 +171,22 @@ void SavedGames::Open(screens::SlotForm& form)
     } else if (*names) {
         for (std::size_t i = 0; i < form.names.size(); ++i) {
             form.names[i]->SetText((**names)[i]);
+        }
+    }
+    ShowAbout(form);
+}
+
+void SavedGames::ShowAbout(screens::SlotForm& form) const
+{
+    for (int slot = 0; slot < screens::kSlotCount; ++slot) {
+        const std::optional<persist::Archive::Note> note = archive_.About(slot + 1);
+        if (note) {
+            const std::string who = note->president.empty()
+                                        ? std::string()
+                                        : core::Shortened(note->president, kLongestName) + ", ";
+            form.lblAbout[slot].SetText(who + "month " + core::Digits(note->months) + ", " +
+                                        std::string(core::kLevelNames[core::LevelIndex(note->level)]) + ". " +
+                                        note->date);
         }
     }
 }

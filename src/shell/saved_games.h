@@ -36,6 +36,11 @@ public:
 
     void OpenFromStart();  // the load screen, before there is a game
 
+    files::Failure NotePresident(std::string_view file) const
+    {
+        return archive_.NotePresident(file, state_.PlayerName);
+    }
+
     void ProSave();  // opens the save screen
     void save();     // the game into the chosen slot
     void ProLoad();  // opens the load screen
@@ -45,6 +50,7 @@ private:
     void BindSave();
     void BindLoad();
     void Open(screens::SlotForm& form);
+    void ShowAbout(screens::SlotForm& form) const;
     void Warn(screens::SlotForm& form, std::string_view trouble);
     void ChooseSaveSlot(std::size_t slot);
     void SaveUnderName();

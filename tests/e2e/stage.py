@@ -69,6 +69,10 @@ def environment_of(home, server=None, **more):
         "ASAN_OPTIONS": f"{os.environ.get('ASAN_OPTIONS', '')}:suppressions={HERE / 'asan.supp'}",
         "LSAN_OPTIONS": f"suppressions={HERE / 'lsan.supp'}:print_suppressions=0"}
     display = {"DISPLAY": server.name} if server else {}
+    settings = home / ".config" / "quenvale" / "settings"
+    if not settings.exists():  # a player who needs no hints, so that the console's picture is the window's
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        settings.write_text("hints = off\n")
     return {**kept, **sanitizers, "HOME": str(home), "XDG_RUNTIME_DIR": str(home), "LC_ALL": "C.UTF-8",
             "XMODIFIERS": "@im=none", "SDL_AUDIODRIVER": "dummy", **display, **more}
 

@@ -150,6 +150,11 @@ TEST_F(WindowTest, AGamepadIsAnotherPairOfHands)
     SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS,
                 "1");  // the dummy driver gives no window the focus
     std::vector<std::string> story;
+    desktop_.onAttend = [&story](const ui::Control*, bool asked) {
+        if (asked) {
+            story.push_back("key " + std::to_string(static_cast<int>(Key::Hint)));
+        }
+    };
     desktop_.onKey = [&story](Key key) {
         story.push_back("key " + std::to_string(static_cast<int>(key)));
         return true;

@@ -51,6 +51,18 @@ protected:
     test::TestGame game_;
 };
 
+TEST_F(ArchiveScreens, TellWhoGovernsInEachSlot)
+{
+    Save(2, "a bot's, without a name");
+    game_.game.Autosave(true);
+    game_.Set({{"MonthsInPower", 12}, {"PlayerName", std::string("Ada")}, {"Difficulty", 2}});
+    Save(4, "ours");
+    OpenLoad();
+    EXPECT_THAT(game_.Text("frmLoad.lblAbout(1)"), testing::MatchesRegex("month 1, Normal. 20..-..-.."));
+    EXPECT_THAT(game_.Text("frmLoad.lblAbout(3)"), StartsWith("Ada, month 12, Hard. "));
+    EXPECT_EQ(game_.Text("frmLoad.lblAbout(0)"), "");
+}
+
 TEST_F(ArchiveScreens, SaveAndLoadAGame)
 {
     game_.Set({{"Money", 123'456},

@@ -229,8 +229,9 @@ inline constexpr TextStyle kStripWarning{
     .face = Face::Caption, .sizes = {{{15, 20}, {13, 18}}}, .fore = kSecretText};
 inline constexpr TextStyle kStripLine{
     .face = Face::Caption, .sizes = {{{15, 16}, {13, 15}}}, .fore = kStripCaptionInk, .wrap = true};
+inline constexpr TextStyle kHandbookLine{.face = Face::TypedLight, .sizes = {{{14, 19}, {13, 18}}}, .fore = kInk};
 // What is said of the thing that the player rests on.
-inline constexpr TextStyle kHint{.face = Face::Caption, .align = Align::Center, .sizes = {{{15, 20}, {14, 18}, {13, 17}}}, .fore = kBandText};
+inline constexpr TextStyle kHint{.face = Face::Caption, .align = Align::Center, .sizes = {{{14, 18}, {13, 17}}}, .fore = kBandText};
 // The secretary's slip.
 inline constexpr TextStyle kSlipTitle{.face = Face::Heading, .sizes = {{{22, 26}, {19, 23}}}, .fore = kHeading};
 inline constexpr TextStyle kSlipNote{.face = Face::TypedLight, .sizes = {{{14, 18}}}, .fore = kUsedRow};

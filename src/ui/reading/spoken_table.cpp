@@ -110,6 +110,9 @@ constexpr Spoken kTable[] = {
     {"frmSettings.cmdValue(3)", "Narration: {}, press for the next one"},
     {"frmSettings.cmdValue(4)", "Hints: {}, press for the next one"},
 
+    {"frmHint",        "What this is"},
+    {"frmHandbook",    "The state handbook", "A page at a time; F4 reads it."},
+
     // The menu and the keys. -----------------------------------------------------------------------------------------
     {"frmMain.Label5(0)", "Presidential actions, key 1"},
     {"frmMain.Label5(1)", "Taxes and budget, key 2"},

@@ -8,9 +8,9 @@
 
 namespace screens {
 
-inline constexpr int kHintHeight = 25;
+inline constexpr int kHintHeight = 21;
 constexpr ui::Rect HintPlace(int bottom) { return {0, bottom - kHintHeight, ui::kSpaceWidth, kHintHeight}; }
-constexpr ui::Rect HintText(int bottom) { return {8, bottom - kHintHeight + 2, ui::kSpaceWidth - 16, kHintHeight - 3}; }
+constexpr ui::Rect HintText(int bottom) { return {8, bottom - kHintHeight + 1, ui::kSpaceWidth - 16, kHintHeight - 2}; }
 
 struct FrmHint : ui::Form {
     explicit FrmHint(ui::Stage& stage)

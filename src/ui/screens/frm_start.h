@@ -36,9 +36,9 @@ struct FrmStart : ui::Form {
     ui::CommandButton Command3{*this, "Command3", {568, 473, 180, 38}, "Quit Game", look::kDangerButton};
     // Whose game it is, its month and its level.
     ui::Label lblContinue{*this, "lblContinue", {24, 500, 320, 36}, "", look::kPlate, {.visible = false}};
-    ui::CommandButton cmdSettings{*this, "cmdSettings", {24, 548, 150, 36}, "Settings", look::kButton};
+    ui::CommandButton cmdSettings{*this, "cmdSettings", {24, 538, 150, 36}, "Settings", look::kButton};
     // What the level changes.
-    ui::Label lblLevel{*this, "lblLevel", {184, 544, 206, 44}, "", look::kAside};
+    ui::Label lblLevel{*this, "lblLevel", {184, 536, 206, 44}, "", look::kAside};
     // Where the manual lies, or that it does not.
     ui::Label Label3{*this, "Label3", {400, 544, 388, 52}, "", look::kAside};
     // Where a viewer inside the screen would show the manual; the platform's own viewer does it.

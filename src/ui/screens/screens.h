@@ -14,6 +14,7 @@
 #include "ui/screens/frm_farewell.h"
 #include "ui/screens/frm_g_rev.h"
 #include "ui/screens/frm_game_loaded.h"
+#include "ui/screens/frm_handbook.h"
 #include "ui/screens/frm_hint.h"
 #include "ui/screens/frm_history.h"
 #include "ui/screens/frm_load.h"
@@ -106,6 +107,7 @@ public:
     FrmFarewell frmFarewell{stage_};
     FrmSettings frmSettings{stage_};
     FrmChronicle frmChronicle{stage_};
+    FrmHandbook frmHandbook{stage_};
     FrmHint frmHint{stage_};
 };
 

@@ -148,6 +148,8 @@ public:
     // The player looks at a control: the pointer rests on it, or the focus has come to it by a key. Null: no more.
     // `asked`: he has pressed the key for it.
     std::function<void(const Control*, bool asked)> onAttend;
+    // The player has pressed a screen that does not take it: why not, is to be told.
+    std::function<void(const Form&)> onRefused;
     // After everything that happened, when all that it left to do is done: for who tells what is shown. Only reads.
     std::function<void(Cause)> onSettled;
 

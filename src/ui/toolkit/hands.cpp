@@ -82,6 +82,7 @@ void Hands::Press(Key key, Modifiers modifiers)
     }
     if (!IsDigit(key) || desktop_.FocusedTextBox() != nullptr || CommandsMenu(modifiers)) {
         desktop_.Press(key, modifiers);
+        rested_ = kCurious;  // the pointer was left lying
         Attend(desktop_.ShowsFocus() ? desktop_.Focused() : nullptr);
     }
 }
@@ -107,7 +108,11 @@ void Hands::PointerDown(Point at, int clicks, bool shift, const Desktop::CaretAt
         return;
     }
     const Form* form = desktop_.FormAt(at);
-    if (desktop_.PauseEnd() && (form == nullptr || form->GetDesign().backdrop)) {
+    const bool ground = form == nullptr || form->GetDesign().backdrop;
+    if (!ground && !desktop_.TakesInput(*form) && desktop_.onRefused) {
+        desktop_.onRefused(*form);
+    }
+    if (desktop_.PauseEnd() && ground) {
         EndPause();
         return;
     }
