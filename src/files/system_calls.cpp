@@ -104,4 +104,9 @@ void SystemCalls::Pause(int milliseconds)
     ::nanosleep(&time, nullptr);
 }
 
+void SystemCalls::WhenKept(std::function<void(int reason)> then)
+{
+    then(0);
+}
+
 }  // namespace files

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 
 struct stat;
 
@@ -31,6 +32,10 @@ public:
     virtual int MakeFolder(const char* path, unsigned mode);
     virtual int Lock(int file);  // at once, or EWOULDBLOCK; closing the file gives the lock back
     virtual void Pause(int milliseconds);
+
+    // Calls `then` with 0 as soon as everything written so far is where it stays, or with the reason why it will not
+    // be. A disk has it by now, so this is at once; who hands it to a store that takes its time calls later.
+    virtual void WhenKept(std::function<void(int reason)> then);
 };
 
 }  // namespace files

@@ -221,6 +221,13 @@ Failure WrittenFiles::Remove(const FolderLock& lock, std::string_view file) cons
     return std::nullopt;
 }
 
+void WrittenFiles::WhenKept(std::string_view file, std::function<void(const Failure&)> then) const
+{
+    system_.WhenKept([file = std::string(file), then = std::move(then)](int reason) {
+        then(reason == 0 ? Failure() : SystemError(file, "cannot be kept", reason));
+    });
+}
+
 void WrittenFiles::Tidy(std::span<const std::string> files) const
 {
     for (const std::string& file : files) {

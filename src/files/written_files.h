@@ -16,6 +16,7 @@
 #include "files/text_records.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -72,6 +73,10 @@ public:
     // that the game would write over is kept so: a shipped one that lies elsewhere gives the empty name.
     Result<std::string> KeepAside(const FolderLock& lock, std::string_view file) const;
     Failure Remove(const FolderLock& lock, std::string_view file) const;  // also when there is none
+
+    // Calls `then` when what was written so far is where it stays: at once on a disk, later where a store answers
+    // later. A failure names this file; it is read here as it was written all the same.
+    void WhenKept(std::string_view file, std::function<void(const Failure&)> then) const;
 
     // At the program's start: removes what a killed game left beside these files, unless another game is just
     // writing. Tells nobody, for nothing is lost.

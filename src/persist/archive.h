@@ -9,8 +9,10 @@
 #include "persist/saved_game.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace persist {
@@ -28,6 +30,11 @@ public:
     files::Failure Save(std::int64_t slot, const core::GameState& state) const;
     // What is not saved is taken from `state`.
     files::Result<core::GameState> Load(std::int64_t slot, const core::GameState& state) const;
+    // Whether what was saved there last stays: `then` is told as files::WrittenFiles::WhenKept tells.
+    void WhenKept(std::int64_t slot, std::function<void(const files::Failure&)> then) const
+    {
+        files_.WhenKept(SlotFile(slot), std::move(then));
+    }
     // Whether the slot holds something else than the game wrote there. Such a game may well be whole, and what a
     // player edits is his own affair; he only ought to know.
     bool Altered(std::int64_t slot) const;

@@ -11,9 +11,11 @@
 #include "core/game_state.h"
 #include "files/written_files.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace persist {
@@ -35,6 +37,11 @@ public:
     bool Altered() const;
     files::Failure Write(const core::GameState& state) const;
     files::Failure Remove() const;
+    // Whether what was written or removed stays so: `then` is told as files::WrittenFiles::WhenKept tells.
+    void WhenKept(std::function<void(const files::Failure&)> then) const
+    {
+        files_.WhenKept(kKeptGame, std::move(then));
+    }
 
     // Every file that is written.
     static std::vector<std::string> Files();

@@ -128,15 +128,24 @@ void Continuation::MonthClosed()
         ours_ = true;
         onKept(persist::kKeptGame);
     }
-    Tell(failure);
+    TellWhenKept(failure);
 }
 
 void Continuation::GameOver()
 {
     if (keeps_ && ours_) {
-        Tell(kept_.Remove());
+        TellWhenKept(kept_.Remove());
     }
     Begin();
+}
+
+void Continuation::TellWhenKept(const files::Failure& failure)
+{
+    if (failure) {
+        Tell(failure);
+    } else {
+        kept_.WhenKept([this](const files::Failure& lost) { Tell(lost); });
+    }
 }
 
 // Once, and behind what the month has said: the next months will fare no better.

@@ -46,6 +46,7 @@ private:
     void Resume();
     void ShowOffer(bool shown, std::string_view of);
     bool MayTakeThePlace() const;
+    void TellWhenKept(const files::Failure& failure);
     void Tell(const files::Failure& failure);
 
     core::GameState& state_;

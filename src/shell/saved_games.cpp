@@ -5,6 +5,7 @@
 #include "month/banner.h"
 #include "shell/figures.h"
 
+#include <memory>
 #include <string>
 
 namespace shell {
@@ -17,6 +18,8 @@ constexpr std::string_view kNoSlot =
 constexpr std::size_t kLongestName = 30;  // of a president, beside his months
 
 constexpr std::string_view kAltered = "The archive remembers it otherwise. Load it all the same?";
+
+constexpr std::string_view kWriting = "One moment, Mr.President. The archivist writes, and he writes slowly.";
 
 std::string EmptySlot(std::int64_t slot)
 {
@@ -261,9 +264,22 @@ void SavedGames::SaveUnderName()
     }
     if (WriteGame()) {
         const files::Failure failure = archive_.SaveNames(namesBefore_, Typed(), state_.SaveSlot);
-        month::Say(screens_.frmMonthBanner, failure ? NotNamed(*failure) : "Game Saved");
+        TellWhenKept(failure ? NotNamed(*failure) : "Game Saved");
     }
     screens_.frmSave.Unload();
+}
+
+// A disk answers before the call returns; a store that takes longer is not spoken for.
+void SavedGames::TellWhenKept(const std::string& saved)
+{
+    const auto answered = std::make_shared<bool>(false);
+    archive_.WhenKept(state_.SaveSlot, [this, answered, saved](const files::Failure& failure) {
+        *answered = true;
+        month::Say(screens_.frmMonthBanner, failure ? NotSaved(*failure) : saved);
+    });
+    if (!*answered) {
+        month::Say(screens_.frmMonthBanner, kWriting);
+    }
 }
 
 void SavedGames::save()

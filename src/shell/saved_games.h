@@ -13,6 +13,7 @@
 #include "ui/toolkit/desktop.h"
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace shell {
@@ -56,6 +57,7 @@ private:
     void SaveUnderName();
     void AskAgain(bool ask);
     bool WriteGame();
+    void TellWhenKept(const std::string& saved);
     void PressLoad();
     void CancelLoad();
     void ChooseLoadSlot(std::size_t slot);

@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -295,25 +297,21 @@ TEST_F(ArchiveScreens, OpenStraightFromTheStartAndLeadBack)
     game_.Expect({{"Money", 4321}, {"SaveSlot", 5}});
 }
 
-// Each call to the system fails once while the player saves over an older game.
-TEST(ArchiveFaults, AreToldAndLeaveAWholeGame)
-{
-    test::TemporaryFolder folder;
-    folder.FillWithAssets();
-    media::RecordingHost host;
-    auto owned = std::make_unique<test::FaultySystem>();
-    test::FaultySystem& system = *owned;
-    Game game(host, files::ProgramFolder(folder.Path()), core::Chance(), core::NumberFormat{},
-              std::move(owned));
-    ui::Desktop& desktop = game.GetDesktop();
-    screens::Screens& screens = game.GetScreens();
-    game.Start();
-    for (ui::Control* control : std::initializer_list<ui::Control*>{
-             &screens.frmlogo.Image1, &screens.frmStart.Command1, &screens.frmName.Command3}) {
-        ASSERT_EQ(desktop.Click(*control), std::nullopt);
+// A game in its first month over a system of the test's own.
+template <class System> struct GameOver {
+    GameOver()
+    {
+        folder.FillWithAssets();
+        game.Start();
+        for (ui::Control* control : std::initializer_list<ui::Control*>{
+                 &screens.frmlogo.Image1, &screens.frmStart.Command1, &screens.frmName.Command3}) {
+            EXPECT_EQ(desktop.Click(*control), std::nullopt);
+        }
     }
-    const std::string& banner = screens.frmMonthBanner.Label1.Text();
-    const auto save = [&](std::int64_t money) {
+
+    // Into the first slot, over what is there; what the file ought to hold.
+    std::string Save(std::int64_t money)
+    {
         game.State().Money = money;
         desktop.Dispatch(*game.FindRoutine("ProSave"));
         desktop.Click(screens.frmSave.Option1);
@@ -322,29 +320,65 @@ TEST(ArchiveFaults, AreToldAndLeaveAWholeGame)
             desktop.Click(screens.frmSave.Command1);
         }
         return persist::WriteSavedGame(game.State());
-    };
-    std::string old = save(0);
-    ASSERT_EQ(banner, "Game Saved");
+    }
+
+    test::TemporaryFolder folder;
+    media::RecordingHost host;
+    std::unique_ptr<System> owned = std::make_unique<System>();
+    System& system = *owned;
+    Game game{host, files::ProgramFolder(folder.Path()), core::Chance(), core::NumberFormat{},
+              std::move(owned)};
+    ui::Desktop& desktop = game.GetDesktop();
+    screens::Screens& screens = game.GetScreens();
+    const std::string& banner = screens.frmMonthBanner.Label1.Text();
+};
+
+// Each call to the system fails once while the player saves over an older game.
+TEST(ArchiveFaults, AreToldAndLeaveAWholeGame)
+{
+    GameOver<test::FaultySystem> on;
+    std::string old = on.Save(0);
+    ASSERT_EQ(on.banner, "Game Saved");
     int told = 0;
     bool happened = true;
     for (int at = 1; happened; ++at) {
         SCOPED_TRACE("call " + std::to_string(at));
-        system.Plan({.at = at, .reason = ENOSPC});
-        const std::string now = save(at);
-        happened = system.Happened();
-        const std::string found = folder.Read("Save/Save1");
+        on.system.Plan({.at = at, .reason = ENOSPC});
+        const std::string now = on.Save(at);
+        happened = on.system.Happened();
+        const std::string found = on.folder.Read("Save/Save1");
         EXPECT_TRUE(found == now || found == old);
-        if (banner == "Game Saved") {
+        if (on.banner == "Game Saved") {
             EXPECT_EQ(found, now);
         } else {
             ++told;
-            EXPECT_THAT(banner, AllOf(StartsWith("Mr.President, "), HasSubstr("(No space left on device)")));
+            EXPECT_THAT(on.banner,
+                        AllOf(StartsWith("Mr.President, "), HasSubstr("(No space left on device)")));
         }
-        EXPECT_FALSE(screens.frmSave.Visible());
-        EXPECT_EQ(desktop.Click(screens.frmMain.Label5[3]), std::nullopt) << "the game goes on";
+        EXPECT_FALSE(on.screens.frmSave.Visible());
+        EXPECT_EQ(on.desktop.Click(on.screens.frmMain.Label5[3]), std::nullopt) << "the game goes on";
         old = found;
     }
     EXPECT_GT(told, 9);
+}
+
+// Hands what is written to a store that answers when the test says so.
+struct SlowSystem : files::SystemCalls {
+    void WhenKept(std::function<void(int reason)> then) override { asked = std::move(then); }
+    std::function<void(int reason)> asked;
+};
+
+TEST(ArchiveFaults, ASaveIsNotSpokenForBeforeItIsKept)
+{
+    GameOver<SlowSystem> on;
+    on.Save(1);
+    EXPECT_THAT(on.banner, HasSubstr("One moment"));
+    on.system.asked(0);
+    EXPECT_EQ(on.banner, "Game Saved");
+    on.Save(2);
+    on.system.asked(ENOSPC);
+    EXPECT_THAT(on.banner, AllOf(HasSubstr("could not be saved"), HasSubstr("Save/Save1: cannot be kept"),
+                                 HasSubstr("(No space left on device)")));
 }
 
 }  // namespace
