@@ -104,9 +104,9 @@ std::string_view TakeLine(std::string_view& text)
 
 }  // namespace
 
-SettingsText ParseSettings(std::string_view content, std::string_view name)
+SettingsText ParseSettings(std::string_view content, std::string_view name, const Settings& delivered)
 {
-    SettingsText text;
+    SettingsText text{delivered, {}};
     for (int number = 1; !content.empty(); ++number) {
         const std::string_view line = TakeLine(content);
         const Row* const row = RowOf(line);

@@ -37,7 +37,8 @@ struct SettingsText {
     std::vector<files::FileError> wrong{};  // by line; those settings are as delivered
 };
 
-SettingsText ParseSettings(std::string_view content, std::string_view name);
+// What the text does not tell is as in `delivered`.
+SettingsText ParseSettings(std::string_view content, std::string_view name, const Settings& delivered = {});
 // Replaces the values in an older text and adds those that it lacks.
 std::string PrintSettings(const Settings& settings, std::string_view older);
 

@@ -16,16 +16,19 @@ constexpr std::string_view kFile = "settings";
 // Nothing of it is shipped, so that the folder and those above it are made where they are missing.
 SettingsFile::SettingsFile(std::filesystem::path folder) : folder_("/", std::move(folder)) {}
 
-SettingsText SettingsFile::Read() const
+SettingsText SettingsFile::Read(const Settings& delivered) const
 {
     const std::filesystem::path path = folder_.WritePath(kFile);
     std::error_code error;
     if (path == kFile ||
         std::filesystem::symlink_status(path, error).type() == std::filesystem::file_type::not_found) {
-        return {.settings = {.firstSteps = true}};
+        SettingsText text{delivered, {}};
+        text.settings.firstSteps = true;
+        return text;
     }
     const files::Result<std::string> content = files::ReadWhole(system_, path, path.string());
-    return content ? ParseSettings(*content, path.string()) : SettingsText{{}, {content.Error()}};
+    return content ? ParseSettings(*content, path.string(), delivered)
+                   : SettingsText{delivered, {content.Error()}};
 }
 
 files::Failure SettingsFile::Write(const Settings& settings) const

@@ -20,7 +20,7 @@ public:
     // is new here.
     explicit SettingsFile(std::filesystem::path folder);
 
-    SettingsText Read() const;
+    SettingsText Read(const Settings& delivered = {}) const;
     // Keeps every line that is not ours, also what another game has added since.
     files::Failure Write(const Settings& settings) const;
 

@@ -43,7 +43,11 @@ SettingsSheet::SettingsSheet(screens::FrmSettings& form, media::Sound& sound) : 
     form.cmdMore.onClick = [louder] { louder(1); };
     form.cmdValue.OnClick([this](int row) { Step(row); });
     form.cmdAsDelivered.onClick = [this] {
-        Change([](Settings& s) { s = {.window = s.window}; });
+        Change([this](Settings& s) {
+            const ui::Rect window = s.window;
+            s = delivered;
+            s.window = window;
+        });
         sound_.SoundClick();
     };
     form.cmdDone.onClick = [this] {

@@ -28,6 +28,9 @@ public:
     // What is wrong with the file, shown on the sheet.
     void Tell(std::string_view trouble) { form_.lblTrouble.SetText(trouble); }
 
+    // What "As delivered" goes back to; a page in a browser begins in its window.
+    Settings delivered;
+
     std::function<void(const Settings&)> onChanged;
     std::function<void(const Settings&)> onKept;
 

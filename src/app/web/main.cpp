@@ -1,9 +1,11 @@
 // Quenvale on a page. The same game; its files were put into the browser's memory by the page's script.
 #include "app/game.h"
-#include "platform/web/kept_files.h"
+#include "app/kept_settings.h"
 #include "platform/web/program.h"
 
 #include <chrono>
+#include <memory>
+#include <utility>
 
 int main()
 {
@@ -14,10 +16,12 @@ int main()
     };
     // They live as long as the page, which goes on when this function has returned.
     static platform::PageHost host(folder);
-    static Game game(host, folder, core::Chance(timeOfDay), core::NumberFormat::OfUser(),
-                     std::make_unique<platform::KeptFiles>());
+    auto owned = std::make_unique<platform::KeptFiles>();
+    static platform::KeptFiles& files = *owned;
+    static Game game(host, folder, core::Chance(timeOfDay), core::NumberFormat::OfUser(), std::move(owned));
+    UseSettings(game, {.fullScreen = false}, [] { files.Keep(); });
     game.Autosave(true);
     game.Start();
-    platform::Start(game.GetDesktop(), host, game.Folder());
+    platform::Start({game.GetDesktop(), game.GetNarrator(), host, files}, game.Folder());
     return 0;
 }
