@@ -9,7 +9,14 @@ export async function launch() {
 }
 
 export class Page {
-  static async open(browser, url, {width = 1000, height = 800, ratio = 1} = {}) {
+  static async open(browser, url, window = {}) {
+    const page = await Page.prepare(browser, window);
+    await page.load(url);
+    return page;
+  }
+
+  // A tab in which nothing is loaded yet.
+  static async prepare(browser, {width = 1000, height = 800, ratio = 1} = {}) {
     const page = new Page();
     page.tab = await browser.newPage();
     page.troubles = [];
@@ -18,7 +25,6 @@ export class Page {
     page.requests = [];
     page.tab.on("request", (request) => page.requests.push(request.url()));
     await page.tab.setViewport({width, height, deviceScaleFactor: ratio});
-    await page.load(url);
     return page;
   }
 
@@ -60,6 +66,20 @@ export class Page {
   // What comes in is handled within a step of the page's own.
   async settle() {
     await sleep(60);
+  }
+
+  // Whether closing the tab now would be asked about.
+  async asksBeforeClosing() {
+    return this.tab.evaluate(() => {
+      const event = new Event("beforeunload", {cancelable: true});
+      window.dispatchEvent(event);
+      return event.defaultPrevented;
+    });
+  }
+
+  // Until what was written is in the browser's store.
+  async kept() {
+    for (let i = 0; i < 100 && await this.asksBeforeClosing(); ++i) await sleep(50);
   }
 
   // The screens of the twin, the front one first: [{title, text, buttons}]; those that answer.

@@ -11,8 +11,14 @@ EM_JS(void, page_put, (const void* pixels, int pitch, int left, int top, int wid
     Module.page.put(HEAPU8, pixels, pitch, left, top, width, height);
 });
 EM_JS(void, page_toggle_full_screen, (), { Module.page.toggleFullScreen(); });
+EM_JS(void, page_enter_full_screen, (), { Module.page.enterFullScreen(); });
 EM_JS(void, page_leave_full_screen, (), { Module.page.leaveFullScreen(); });
 EM_JS(void, page_play, (const char* path), { Module.page.play(UTF8ToString(path)); });
+EM_JS(void, page_set_volume, (int percent), { Module.page.setVolume(percent); });
+EM_JS(int, page_say, (const char* line, int interrupt, int rate), {
+    return Module.page.say(UTF8ToString(line), interrupt !== 0, rate);
+});
+EM_JS(void, page_silence, (), { Module.page.silence(); });
 EM_JS(void, page_open, (const char* file, const char* chapter), {
     Module.page.open(UTF8ToString(file), UTF8ToString(chapter));
 });
@@ -46,6 +52,11 @@ void ToggleFullScreen()
     page_toggle_full_screen();
 }
 
+void EnterFullScreen()
+{
+    page_enter_full_screen();
+}
+
 void LeaveFullScreen()
 {
     page_leave_full_screen();
@@ -54,6 +65,21 @@ void LeaveFullScreen()
 void Play(std::string_view path)
 {
     page_play(std::string(path).c_str());
+}
+
+void SetVolume(int percent)
+{
+    page_set_volume(percent);
+}
+
+bool Say(std::string_view line, bool interrupt, int rate)
+{
+    return page_say(std::string(line).c_str(), interrupt ? 1 : 0, rate) != 0;
+}
+
+void Silence()
+{
+    page_silence();
 }
 
 void Open(std::string_view file, std::string_view chapter)

@@ -12,10 +12,17 @@ int Height();
 // A part of a surface of 32 bits a pixel (blue lowest) onto the canvas.
 void Put(const void* pixels, int pitch, int left, int top, int width, int height);
 void ToggleFullScreen();
+// Browsers allow it only while the player is pressing something; else nothing happens.
+void EnterFullScreen();
 void LeaveFullScreen();
 
 // Plays a wave file of the game's folder from the start, in place of what sounds.
 void Play(std::string_view path);
+void SetVolume(int percent);
+
+// The browser's own voice. False: it has none. The rate is from -100 to 100.
+bool Say(std::string_view line, bool interrupt, int rate);
+void Silence();
 // Opens a document of the site in a tab of its own; the chapter is a mark in it.
 void Open(std::string_view file, std::string_view chapter);
 
@@ -29,7 +36,7 @@ bool Fetch(std::string_view path);
 void Tell(std::string_view twin);
 // A text box has the focus: a touch screen shows its keyboard.
 void Typing(bool typing);
-// The game's files were written: they go to the browser's own store.
+// The game's files were written: they go to the browser's own store, which answers to quenvale_kept later.
 void Keep();
 void Ended();
 

@@ -9,8 +9,16 @@ void PageHost::PlayWave(std::string_view file)
     page::Play(folder_.Path(file).string());
 }
 
-// Who opens a page has not asked for his whole screen: the page's button and F11 do that.
-void PageHost::SwitchDisplayMode() {}
+void PageHost::SetVolume(int percent)
+{
+    page::SetVolume(percent);
+}
+
+// Who opens a page has not asked for his whole screen: his settings say when he has.
+void PageHost::SwitchDisplayMode()
+{
+    page::EnterFullScreen();
+}
 
 void PageHost::RestoreDisplayMode()
 {

@@ -11,6 +11,7 @@ public:
     explicit PageHost(files::ProgramFolder folder) : folder_(std::move(folder)) {}
 
     void PlayWave(std::string_view file) override;
+    void SetVolume(int percent) override;
     void SwitchDisplayMode() override;
     void RestoreDisplayMode() override;
     void OpenDocument(std::string_view file, std::string_view chapter) override;

@@ -5,6 +5,7 @@
 #include <SDL2/SDL.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <iterator>
 #include <utility>
 
@@ -29,6 +30,9 @@ constexpr ui::Key kPadKeys[] = {ui::Key::Up,
                                 ui::Key::Options,
                                 ui::Key::Hint};
 
+// What the page's store answers, as page.js counts it, and the system's word for it.
+constexpr int kStoreAnswers[] = {0, ENOSPC, EIO, EROFS};
+
 // SDL marks the end of a batch in its own queue while it is asked for events: that is no event.
 int WakeOnEvent(void*, SDL_Event* event)
 {
@@ -40,17 +44,25 @@ int WakeOnEvent(void*, SDL_Event* event)
 
 }  // namespace
 
-PageLoop::PageLoop(ui::Desktop& desktop, PageHost& host, CanvasFrame& frame, Painter& painter)
-    : desktop_(desktop)
-    , host_(host)
+PageLoop::PageLoop(const Played& played, CanvasFrame& frame, Painter& painter)
+    : desktop_(played.desktop)
+    , narrator_(played.narrator)
+    , host_(played.host)
+    , files_(played.files)
     , frame_(frame)
     , painter_(painter)
-    , hands_(desktop)
-    , input_(desktop, hands_, painter, frame)
-    , twin_(desktop)
+    , hands_(desktop_)
+    , input_(desktop_, hands_, painter, frame)
+    , twin_(desktop_)
     , passed_(Now())
 {
+    narrator_.SetVoice(&voice_);
     painter_.FetchPictures([](const std::filesystem::path& file) { return page::Fetch(file.string()); });
+}
+
+PageLoop::~PageLoop()
+{
+    narrator_.SetVoice(nullptr);
 }
 
 void PageLoop::Start()
@@ -101,6 +113,9 @@ void PageLoop::Step()
     hands_.LetTimePass(now - passed_);
     passed_ = now;
     TakeEvents();
+    if (voice_.TakeTrouble()) {
+        narrator_.TellNoVoice();
+    }
     Show();
     input_.Follow();
     twin_.Tell();
@@ -126,6 +141,13 @@ void PageLoop::FilesCame()
 {
     painter_.PicturesCame();
     Resized();
+}
+
+void PageLoop::Kept(int answer)
+{
+    files_.Answered(answer >= 0 && answer < static_cast<int>(std::size(kStoreAnswers)) ? kStoreAnswers[answer]
+                                                                                       : EIO);
+    Step();
 }
 
 void PageLoop::Do(const std::string& what, int control, const std::string& text)

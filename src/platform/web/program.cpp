@@ -1,7 +1,5 @@
 #include "platform/web/program.h"
 
-#include "platform/web/page_loop.h"
-
 #include <SDL2/SDL.h>
 #include <emscripten.h>
 
@@ -18,8 +16,8 @@ struct Parts {
     Painter painter;
     PageLoop loop;
 
-    Parts(ui::Desktop& desktop, PageHost& host, const files::ProgramFolder& folder)
-        : painter(folder), loop(desktop, host, frame, painter)
+    Parts(const Played& played, const files::ProgramFolder& folder)
+        : painter(folder), loop(played, frame, painter)
     {}
 };
 
@@ -31,7 +29,7 @@ std::unique_ptr<Parts>& TheParts()
 
 }  // namespace
 
-void Start(ui::Desktop& desktop, PageHost& host, const files::ProgramFolder& folder)
+void Start(const Played& played, const files::ProgramFolder& folder)
 {
     SDL_SetHint(SDL_HINT_EMSCRIPTEN_KEYBOARD_ELEMENT, "#canvas");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
@@ -40,7 +38,7 @@ void Start(ui::Desktop& desktop, PageHost& host, const files::ProgramFolder& fol
         std::cerr << "quenvale: " << SDL_GetError() << '\n';
         return;
     }
-    TheParts() = std::make_unique<Parts>(desktop, host, folder);
+    TheParts() = std::make_unique<Parts>(played, folder);
     TheParts()->loop.Start();
 }
 
@@ -62,6 +60,11 @@ EMSCRIPTEN_KEEPALIVE void quenvale_resized()
 EMSCRIPTEN_KEEPALIVE void quenvale_files_came()
 {
     platform::TheParts()->loop.FilesCame();
+}
+
+EMSCRIPTEN_KEEPALIVE void quenvale_kept(int answer)
+{
+    platform::TheParts()->loop.Kept(answer);
 }
 
 EMSCRIPTEN_KEEPALIVE void quenvale_do(const char* what, int control, const char* text)

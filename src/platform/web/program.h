@@ -2,12 +2,11 @@
 // that the loop's steps are made of. Nothing here is ever destroyed; the page takes all of it along.
 #pragma once
 
-#include "platform/web/page_host.h"
-#include "ui/toolkit/desktop.h"
+#include "files/program_folder.h"
+#include "platform/web/page_loop.h"
 
 namespace platform {
 
-// Both must live as long as the page.
-void Start(ui::Desktop& desktop, PageHost& host, const files::ProgramFolder& folder);
+void Start(const Played& played, const files::ProgramFolder& folder);
 
 }  // namespace platform

@@ -5,9 +5,11 @@
   const $ = (id) => document.getElementById(id);
   const canvas = $("canvas");
   const kHome = "/home/web_user/.local/share/quenvale";
+  const kSettings = "/home/web_user/.config/quenvale";
   const kGame = "/game";
-  const state = { sizes: new Map(), fetching: new Map(), twin: "", timer: 0, pending: false, mayKeep: false,
-                  keeping: false, again: false, dirty: false, sound: null, source: null, ready: false };
+  const state = { sizes: new Map(), fetching: new Map(), wanted: new Set(), twin: "", timer: 0, pending: false, mayKeep: false,
+                  writing: null, again: false, dirty: false, failed: false, store: null, sound: null, gain: null, volume: 1,
+                  source: null, ready: false };
 
   const notice = (text) => { $("notice").textContent = text; };
 
@@ -40,26 +42,50 @@
     context.putImageData(image, left, top);
   };
 
+  // A telephone turns the picture on its side along with it, where it can.
+  const fillScreen = async () => {
+    await document.documentElement.requestFullscreen();
+    if (screen.orientation && screen.orientation.lock) await screen.orientation.lock("landscape").catch(() => {});
+  };
   const toggleFullScreen = () => {
     if (document.fullscreenElement) document.exitFullscreen();
-    else document.documentElement.requestFullscreen().catch(() => notice("The browser keeps its window."));
+    else fillScreen().catch(() => notice("The browser keeps its window."));
   };
 
   // Sound: the device opens with the first sound after the first press, and closes when nothing sounds any more. ---------
 
+  const setVolume = (percent) => {
+    state.volume = percent / 100;
+    if (state.gain) state.gain.gain.value = state.volume;
+  };
+
   const play = async (path) => {
+    if (state.volume === 0) return;
     try {
-      state.sound = state.sound || new AudioContext();
+      if (!state.sound) {
+        state.sound = new AudioContext();
+        state.gain = state.sound.createGain();
+        state.gain.connect(state.sound.destination);
+        setVolume(state.volume * 100);
+      }
       if (state.sound.state === "suspended") await state.sound.resume();
       const answer = await fetch(path.slice(kGame.length + 1));
       const samples = await state.sound.decodeAudioData(await answer.arrayBuffer());
       if (state.source) state.source.stop();
       const source = state.source = state.sound.createBufferSource();
       source.buffer = samples;
-      source.connect(state.sound.destination);
+      source.connect(state.gain);
       source.onended = () => { if (state.source === source) { state.source = null; state.sound.suspend(); } };
       source.start();
     } catch (error) { console.warn("quenvale:", path, error.message); }
+  };
+
+  // The narrator's voice is the browser's. False: it has none.
+  const say = (line, interrupt, rate) => {
+    if (!window.speechSynthesis) return false;
+    if (interrupt) speechSynthesis.cancel();
+    speechSynthesis.speak(Object.assign(new SpeechSynthesisUtterance(line), { lang: "en", rate: 2 ** (rate / 100) }));
+    return true;
   };
 
   // Files -------------------------------------------------------------------------------------------------------------
@@ -70,34 +96,127 @@
   // Everything that comes within a moment is told at once.
   let arrived = 0;
   const tellArrivals = () => { arrived = 0; Module._quenvale_files_came(); };
+  const arrive = (name, bytes) => {
+    write(kGame + "/" + name, bytes);
+    if (state.wanted.delete(name)) arrived = arrived || setTimeout(tellArrivals, 20);
+  };
 
-  // True: it is on its way.
-  const fetchFile = (path) => {
-    const name = path.slice(kGame.length + 1);
-    if (!state.sizes.has(name)) return 0;
+  const bring = (name) => {
     if (!state.fetching.has(name)) {
       state.fetching.set(name, fetch(name)
         .then((answer) => { if (!answer.ok) throw new Error(answer.status); return answer.arrayBuffer(); })
-        .then((bytes) => {
-          write(path, new Uint8Array(bytes));
-          arrived = arrived || setTimeout(tellArrivals, 20);
-        })
+        .then((bytes) => arrive(name, new Uint8Array(bytes)))
         .catch((error) => { state.sizes.delete(name); console.warn("quenvale:", name, error.message); }));
     }
-    return 1;
+    return state.fetching.get(name);
   };
 
-  // What was written goes to the browser's store; a press on "close" in between is asked about.
-  const keep = () => {
-    if (!state.mayKeep) return;
-    state.dirty = true;
-    if (state.keeping) { state.again = true; return; }
-    state.keeping = true;
-    Module.FS.syncfs(false, (error) => {
-      state.keeping = false;
-      if (error) notice("The browser's archive is full or closed: " + error + ". The game is not kept.");
-      if (state.again) { state.again = false; keep(); } else state.dirty = Boolean(error);
+  // The game wants a file. True: it is on its way.
+  const fetchFile = (path) => {
+    const name = path.slice(kGame.length + 1);
+    if (!state.sizes.has(name)) return false;
+    state.wanted.add(name);
+    bring(name);
+    return true;
+  };
+
+  // What is likely to be shown next comes one file after another while the player looks at something else. A large window
+  // wants the picture of twice the size as well, as src/platform/pictures.cpp says; who saves data is asked for nothing.
+  const kMostEnlarged = 1.25;
+  const fetchAhead = async (names) => {
+    if (navigator.connection && navigator.connection.saveData) return;
+    for (const name of names) {
+      await bring(name);
+      const double = name.replace("images/", "images/2x/").replace(".bmp", ".png");
+      const isLarge = Math.min(canvas.width / 800, canvas.height / 600) > kMostEnlarged;
+      if (isLarge && state.sizes.has(double)) await bring(double);
+    }
+  };
+
+  // The archive: what the game has written lies in IndexedDB too, and goes there in one piece or not at all. -------------------
+
+  const filesIn = function* (folder) {
+    if (!Module.FS.analyzePath(folder).exists) return;
+    for (const name of Module.FS.readdir(folder).filter((name) => name !== "." && name !== "..")) {
+      const path = folder + "/" + name;
+      if (Module.FS.isDir(Module.FS.stat(path).mode)) yield* filesIn(path);
+      else yield path;
+    }
+  };
+
+  const answer = (request) => new Promise((resolve, reject) => {
+    request.onsuccess = () => resolve(request.result);
+    request.onerror = () => reject(request.error);
+  });
+
+  const openStore = () => {
+    const request = indexedDB.open("quenvale", 1);
+    request.onupgradeneeded = () => request.result.createObjectStore("files");
+    return answer(request);
+  };
+
+  const readStore = async () => {
+    state.store = await openStore();
+    const files = state.store.transaction("files").objectStore("files");
+    const [paths, contents] = await Promise.all([answer(files.getAllKeys()), answer(files.getAll())]);
+    paths.forEach((path, at) => write(path, contents[at]));
+  };
+
+  // Done when the browser says that it is on the disk.
+  const writeStore = async () => {
+    state.store = state.store || await openStore();
+    const transaction = state.store.transaction("files", "readwrite", { durability: "strict" });
+    const done = new Promise((resolve, reject) => {
+      transaction.oncomplete = resolve;
+      transaction.onabort = () => reject(transaction.error || new Error("the browser broke off"));
     });
+    try {
+      const files = transaction.objectStore("files");
+      files.clear();
+      for (const folder of [kHome, kSettings]) for (const path of filesIn(folder)) files.put(Module.FS.readFile(path), path);
+    } catch (error) {
+      done.catch(() => {});
+      transaction.abort();
+      throw error;
+    }
+    await done;
+  };
+
+  // What the game is told, by page_loop.cpp's table.
+  const kKept = 0, kFull = 1, kRefused = 2, kNotHere = 3;
+  const storeAll = async () => {
+    if (!state.mayKeep) return kNotHere;
+    try {
+      await writeStore();
+      return kKept;
+    } catch (error) {
+      state.store = null;  // it may have been closed: the next time it is opened again
+      notice("The browser's archive is full or closed: " + error.message + ". The game is not kept.");
+      return error.name === "QuotaExceededError" ? kFull : kRefused;
+    }
+  };
+
+  // What was written goes to the browser's store, after the step in which a file and its checksum are written. A press
+  // on "close" before the answer is asked about.
+  const keepAll = async () => {
+    await new Promise((resolve) => setTimeout(resolve));
+    let reason = kKept;
+    while (state.again) {
+      state.again = false;
+      reason = await storeAll();
+    }
+    state.writing = null;
+    state.dirty = state.mayKeep && reason !== kKept;
+    if (reason === kKept && state.failed) notice("");
+    state.failed = state.dirty;
+    Module._quenvale_kept(reason);
+    return reason;
+  };
+  const keep = () => {
+    state.again = true;
+    state.dirty = state.mayKeep;
+    state.writing = state.writing || keepAll();
+    return state.writing;
   };
   window.addEventListener("beforeunload", (event) => { if (state.dirty) event.preventDefault(); });
 
@@ -204,34 +323,32 @@
 
   // The archive enters and leaves as files, byte for byte those of the desktop's game. ---------------------------------------
 
-  const archive = function* (folder) {
-    for (const name of Module.FS.readdir(folder).filter((name) => name !== "." && name !== "..")) {
-      const path = folder + "/" + name;
-      if (Module.FS.isDir(Module.FS.stat(path).mode)) yield* archive(path);
-      else yield path;
-    }
-  };
-
   const take = () => {
-    const files = [...archive(kHome)];
+    const files = [...filesIn(kHome)];
     if (files.length === 0) { notice("The archive is empty. Nothing has been kept yet."); return; }
     for (const path of files) {
       const link = element("a", "", { download: path.split("/").pop(),
-        href: URL.createObjectURL(new Blob([Module.FS.readFile(path)])) });
+        href: URL.createObjectURL(new Blob([Module.FS.readFile(path)], { type: "application/octet-stream" })) });
       link.click();
       setTimeout(() => URL.revokeObjectURL(link.href), 1000);
     }
   };
 
-  const kArchive = /^(Save\d+|savenames|Top|Continue)(\.sum|\.chronicle)?$/;
-  const bring = async (files) => {
-    for (const file of files) {
-      if (!kArchive.test(file.name)) { notice(file.name + " is none of the archive's files."); continue; }
+  const kArchive = /^(Save[1-5]|names|Top|Continue)(\.sum|\.chronicle)?$/;
+  // A browser may have numbered a second copy, or told the world that it is a text.
+  const nameOf = (file) => file.name.replace(/ ?\(\d+\)|\.txt$/g, "");
+  const takeIn = async (files) => {
+    const ours = [...files].filter((file) => kArchive.test(nameOf(file)));
+    const others = [...files].filter((file) => !ours.includes(file)).map((file) => file.name);
+    for (const file of ours) {
       const folder = file.name.startsWith("Top") ? "Data" : "Save";
-      write(kHome + "/" + folder + "/" + file.name, new Uint8Array(await file.arrayBuffer()));
-      notice(file.name + " is in the archive.");
+      write(kHome + "/" + folder + "/" + nameOf(file), new Uint8Array(await file.arrayBuffer()));
     }
-    keep();
+    const isKept = ours.length === 0 || await keep() === kKept;
+    const names = ours.map(nameOf).join(", ");
+    if (ours.length > 0 && isKept) notice(names + (ours.length > 1 ? " are" : " is") + " in the archive.");
+    if (ours.length > 0 && !state.mayKeep) notice(names + ": to be played with now, but this tab keeps nothing.");
+    if (others.length > 0) notice("None of the archive's files: " + others.join(", ") + ".");
   };
 
   // The half of the page that the game calls. ----------------------------------------------------------------------------------
@@ -239,7 +356,12 @@
   const page = {
     width: () => canvas.width,
     height: () => canvas.height,
-    put, toggleFullScreen, play, tell, keep,
+    put, toggleFullScreen, play, setVolume, say, tell, keep,
+    silence: () => { if (window.speechSynthesis) speechSynthesis.cancel(); },
+    enterFullScreen: () => {
+      const mayAsk = !navigator.userActivation || navigator.userActivation.isActive;
+      if (mayAsk && !document.fullscreenElement) fillScreen().catch(() => {});
+    },
     leaveFullScreen: () => { if (document.fullscreenElement) document.exitFullscreen(); },
     open: (file, chapter) => window.open(file + (chapter ? "#" + chapter : ""), "_blank", "noopener"),
     fetch: fetchFile,
@@ -267,22 +389,18 @@
 
   // The start: program, first files and archive at once, then the game. ----------------------------------------------------------
 
-  const progress = (part) => { $("progress").value = part; };
-
-  const load = async (name, total, from, share) => {
-    const answer = await fetch(name);
-    if (!answer.ok) throw new Error(name + ": " + answer.status);
-    const reader = answer.body.getReader();
-    const parts = [];
-    let size = 0;
-    for (let next = await reader.read(); !next.done; next = await reader.read()) {
-      parts.push(next.value);
-      size += next.value.length;
-      progress(from + share * Math.min(size / total, 1));
-    }
-    const bytes = new Uint8Array(size);
-    parts.reduce((at, part) => { bytes.set(part, at); return at + part.length; }, 0);
-    return bytes;
+  // An answer that moves the bar as it comes in.
+  const counted = async (answer, loaded, total) => {
+    const came = await answer;
+    if (!came.ok) throw new Error(came.url + ": " + came.status);
+    const count = new TransformStream({
+      transform: (bytes, to) => {
+        loaded.size += bytes.length;
+        $("progress").value = loaded.size / total;
+        to.enqueue(bytes);
+      },
+    });
+    return new Response(came.body.pipeThrough(count), { headers: { "Content-Type": "application/wasm" } });
   };
 
   const unpack = (bytes, index) => {
@@ -291,16 +409,15 @@
   };
 
   const openArchive = () => new Promise((resolve) => {
-    const FS = Module.FS;
-    FS.mkdirTree(kHome);
+    Module.FS.mkdirTree(kHome);
     const alone = (lock) => {
       state.mayKeep = lock !== null;
-      FS.mount(FS.filesystems ? FS.filesystems.IDBFS : Module.IDBFS, {}, kHome);
-      FS.syncfs(true, (error) => {
-        if (error) { state.mayKeep = false; notice("This window keeps no archive (a private one?): play on, nothing will be saved."); }
-        else if (!state.mayKeep) notice("Another tab has the archive: this one plays, but nothing it saves is kept.");
-        resolve();
-      });
+      readStore().then(() => {
+        if (!state.mayKeep) notice("Another tab has the archive: this one plays, but nothing it saves is kept.");
+      }).catch(() => {
+        state.mayKeep = false;
+        notice("This window keeps no archive (a private one?): play on, nothing will be saved.");
+      }).then(resolve);
     };
     if (!navigator.locks) { alone({}); return; }
     navigator.locks.request("quenvale archive", { ifAvailable: true }, (lock) => {
@@ -310,19 +427,23 @@
   });
 
   const begin = async () => {
-    const site = await (await fetch("site.json")).json();
-    site.files.forEach(([name, size]) => state.sizes.set(name, size));
+    const [listing, program, files] = ["site.json", "quenvale.wasm", "first.bin"].map((name) => fetch(name));
     const runtime = new Promise((resolve) => { Module.onRuntimeInitialized = resolve; });
-    const program = load("quenvale.wasm", site.program, 0, 0.5);
-    const first = load("first.bin", site.first.reduce((sum, [, size]) => sum + size, 0), 0.5, 0.5);
-    Module.instantiateWasm = (imports, done) => {
-      program.then((bytes) => WebAssembly.instantiate(bytes, imports)).then((made) => done(made.instance, made.module));
-      return {};
-    };
-    const script = element("script", "", { src: "quenvale.js" });
-    document.body.append(script);
-    await runtime;
-    unpack(await first, site.first);
+    const site = await (await listing).json();
+    site.files.forEach(([name, size]) => state.sizes.set(name, size));
+    const loaded = { size: 0 };
+    const total = site.first.reduce((sum, [, size]) => sum + size, site.program);
+    const first = counted(files, loaded, total).then((answer) => answer.arrayBuffer());
+    await new Promise((resolve, reject) => {
+      Module.instantiateWasm = (imports, done) => {
+        WebAssembly.instantiateStreaming(counted(program, loaded, total), imports)
+          .then((made) => done(made.instance, made.module)).catch(reject);
+        return {};
+      };
+      runtime.then(resolve);
+      document.body.append(element("script", "", { src: "quenvale.js" }));
+    });
+    unpack(new Uint8Array(await first), site.first);
     await openArchive();
     resize();
     Module.callMain();
@@ -333,13 +454,14 @@
     unpack(new Uint8Array(await (await fetch("late.bin")).arrayBuffer()), site.late);
     performance.mark("complete");
     if ("serviceWorker" in navigator && location.protocol.startsWith("http")) navigator.serviceWorker.register("sw.js").catch(() => {});
+    await fetchAhead(site.ahead);
   };
 
   window.Module = { page, canvas, print: console.log, printErr: console.warn };
   new ResizeObserver(resize).observe(canvas);
   $("full").addEventListener("click", toggleFullScreen);
   $("export").addEventListener("click", take);
-  $("import").addEventListener("change", (event) => bring(event.target.files));
+  $("import").addEventListener("change", (event) => takeIn(event.target.files));
   $("keyboard").addEventListener("input", (event) => { if (state.field) does("type", state.field.id, event.target.value); });
   $("keyboard").addEventListener("keydown", (event) => { if (event.key === "Enter") does("key", 4); });
   window.addEventListener("gamepadconnected", () => requestAnimationFrame(lookAtPads));

@@ -1,7 +1,16 @@
-// Plays offline the second time: everything that was fetched once is kept, by the version of the site.
+// Plays offline the second time: what a game begins with is kept when the page was seen once, everything else when it was
+// fetched, by the version of the site.
 "use strict";
 const kVersion = "@VERSION@";
-self.addEventListener("install", () => self.skipWaiting());
+const kCore = ["./", "page.js", "style.css", "icon.png", "site.json", "quenvale.js", "quenvale.wasm", "first.bin", "late.bin"];
+const keepTheBeginning = async () => {
+  const cache = await caches.open(kVersion);
+  // Asked for anew: a half of the last version would not go with a half of this one.
+  await cache.addAll(kCore.map((name) => new Request(name, { cache: "no-cache" })));
+  const site = await (await cache.match("site.json")).json();
+  await cache.addAll(site.ahead);
+};
+self.addEventListener("install", (event) => { self.skipWaiting(); event.waitUntil(keepTheBeginning()); });
 self.addEventListener("activate", (event) => event.waitUntil(
   caches.keys().then((names) => Promise.all(names.filter((name) => name !== kVersion).map((name) => caches.delete(name))))
     .then(() => self.clients.claim())));
