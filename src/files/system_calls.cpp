@@ -104,7 +104,7 @@ void SystemCalls::Pause(int milliseconds)
     ::nanosleep(&time, nullptr);
 }
 
-void SystemCalls::WhenKept(std::function<void(int reason)> then)
+void SystemCalls::WhenKept(const std::function<void(int reason)>& then)
 {
     then(0);
 }

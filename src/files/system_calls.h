@@ -35,7 +35,7 @@ public:
 
     // Calls `then` with 0 as soon as everything written so far is where it stays, or with the reason why it will not
     // be. A disk has it by now, so this is at once; who hands it to a store that takes its time calls later.
-    virtual void WhenKept(std::function<void(int reason)> then);
+    virtual void WhenKept(const std::function<void(int reason)>& then);
 };
 
 }  // namespace files

@@ -10,7 +10,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace {
 
@@ -364,7 +363,7 @@ TEST(ArchiveFaults, AreToldAndLeaveAWholeGame)
 
 // Hands what is written to a store that answers when the test says so.
 struct SlowSystem : files::SystemCalls {
-    void WhenKept(std::function<void(int reason)> then) override { asked = std::move(then); }
+    void WhenKept(const std::function<void(int reason)>& then) override { asked = then; }
     std::function<void(int reason)> asked;
 };
 

@@ -20,10 +20,10 @@ int KeptFiles::Remove(const char* path)
     return result;
 }
 
-void KeptFiles::WhenKept(std::function<void(int reason)> then)
+void KeptFiles::WhenKept(const std::function<void(int reason)>& then)
 {
     if (writing_) {
-        waiting_.push_back(std::move(then));
+        waiting_.push_back(then);
     } else {
         then(reason_);
     }

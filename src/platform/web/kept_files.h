@@ -17,7 +17,7 @@ class KeptFiles final : public files::SystemCalls {
 public:
     int Rename(const char* from, const char* to) override;
     int Remove(const char* path) override;
-    void WhenKept(std::function<void(int reason)> then) override;
+    void WhenKept(const std::function<void(int reason)>& then) override;
 
     // What was written by others is to be kept too.
     void Keep();
