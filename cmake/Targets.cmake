@@ -93,12 +93,27 @@ function(quenvale_program target)
     quenvale_set_up(${target} PRIVATE quenvale_headers ${ARGN})
 endfunction()
 
+# What is compiled for a browser as a program for node, on the machine's own files.
+function(quenvale_for_node target)
+    target_link_options(${target} PRIVATE
+        -sENVIRONMENT=node -sNODERAWFS -sALLOW_MEMORY_GROWTH -sEXIT_RUNTIME -sUSE_SDL=0
+        --pre-js "${PROJECT_SOURCE_DIR}/tests/web/node.js")
+endfunction()
+
 # A program of GoogleTest cases in build/<preset>/tests/. It has main() already.
 function(quenvale_test target)
     add_executable(${target})
     quenvale_set_up(${target} PRIVATE quenvale_test_headers ${ARGN})
     target_link_libraries(${target} PRIVATE GTest::gmock_main)
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/tests")
+    if(EMSCRIPTEN)
+        quenvale_for_node(${target})
+        add_dependencies(node_tests ${target})
+        add_test(NAME ${target} COMMAND ${target} --gtest_brief=1 --gtest_filter=-${QUENVALE_NOT_FOR_NODE}
+            WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}")
+        set_tests_properties(${target} PROPERTIES TIMEOUT 120)
+        return()
+    endif()
     gtest_discover_tests(${target}
         WORKING_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}"
         PROPERTIES TIMEOUT 120

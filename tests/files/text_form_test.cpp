@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <limits>
 #include <random>
 
@@ -34,7 +35,9 @@ TEST(TextForm, WritesFractionsWithSevenDigits)
     }
     std::mt19937 random(1);
     for (int i = 0; i < 10'000; ++i) {
-        const float value = std::bit_cast<float>(static_cast<std::uint32_t>(random()));
+        const auto bits = static_cast<std::uint32_t>(random());
+        float value = 0;
+        std::memcpy(&value, &bits, sizeof value);
         if (std::isfinite(value) && std::fpclassify(value) != FP_SUBNORMAL) {
             const std::optional<float> read = files::AsFloat({files::Number(value)});
             ASSERT_TRUE(read) << files::Number(value);

@@ -76,7 +76,7 @@ TEST_F(Room, ForTheAlliesAndTheirOffers)
         game.Click("frmChoose.Command1(" + std::to_string(i) + ")");
         ExpectFits("frmChoose.Label1");
     }
-    EXPECT_TRUE(ui::Rect(12, 58, 776, 534).Contains(game.Form("frmChoose").Place()));
+    EXPECT_TRUE((ui::Rect{12, 58, 776, 534}.Contains(game.Form("frmChoose").Place())));
 }
 
 // Every mixture of starters and supporters, with the longest warning.
