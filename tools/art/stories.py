@@ -45,7 +45,7 @@ STORIES = {
         body='Yesterday at noon the earth of the Republic trembled. Experts still differ whether it was the '
              'ground or the applause after the President’s speech. Where houses fell, neighbours dug, sang '
              'and praised the firmness of the Palace, which did not move. “He shook hands with every one of '
-             'us,” says a survivor; “so did everything else.” Discontent has never been lower.',
+             'us,” says a survivor; “so did everything else.” Where incomes fell, spirits were told to rise.',
         second_title='To our readers',
         second_body='Cracks in walls, roads and families will be filled by the Ministry in order of loyalty.',
         number='No. 1,933'),

@@ -221,7 +221,7 @@ constexpr Spoken kTable[] = {
         "Grateful citizens before the Palace, the last building with a view.",
         "The people stand by him. Yesterday at noon the earth of the Republic trembled. Experts still differ whether it was the ground or the applause after the President's speech. "
         "Where houses fell, neighbours dug, sang and praised the firmness of the Palace, which did not move. He shook hands with every one of us, says a survivor; so did everything "
-        "else. Discontent has never been lower."},
+        "else. Where incomes fell, spirits were told to rise."},
     {"images/newsa1.bmp", "It was the newest one we had, says the mechanic. The picture: a burning helicopter above the sea, a general's cap on the beach, and between them the fin of a shark. "
         "The machine a moment before it was struck off the list of assets.",
         "A soldier to the very end. The chief of our Army was lost this morning when his helicopter, on a routine flight to his country house, came down faster than planned. "
