@@ -17,7 +17,7 @@ TEST(Ending, LeadsThroughTheHallOfFameBackToTheTitle)
 {
     test::TestGame game;
     game.StartGame(core::kHard, "Remedios");
-    game.Set({{"SwissBank", 90'000'000}, {"MonthsInPower", 30}, {"AttemptStrength[3][1]", 4}});
+    game.Set({{"SwissBank", 900'000'000}, {"MonthsInPower", 30}, {"AttemptStrength[3][1]", 4}});
     game.Form("frmArmy").ShowModal([] { FAIL() << "the old game's story went on"; });
     game.Screens().frmMain.Timer4.SetInterval(4000);
     game.Wait(4000);
@@ -26,7 +26,7 @@ TEST(Ending, LeadsThroughTheHallOfFameBackToTheTitle)
     EXPECT_THAT(game.Text("frmTop102.Label1(0)"),
                 StartsWith("President Remedios made it alive at hard level"));
     EXPECT_THAT(game.folder.Read("Data/Top"),
-                StartsWith("\"Remedios\"\r\n90000000\r\n30\r\n0\r\n0\r\n0\r\n2\r\n"));
+                StartsWith("\"Remedios\"\r\n900000000\r\n30\r\n0\r\n0\r\n0\r\n2\r\n"));
     game.Expect({{"HallShown", 1}});
     game.Screens().frmArmy.Unload();
     game.Screens().frmMain.Timer2.SetInterval(5000);
@@ -56,7 +56,7 @@ TEST(Ending, OfADeadPresidentCountsForNothing)
 {
     test::TestGame game;
     game.StartGame();
-    game.Set({{"SwissBank", 90'000'000}, {"Dead", 1}});
+    game.Set({{"SwissBank", 900'000'000}, {"Dead", 1}});
     const std::string before = game.folder.Read("Data/Top");
     game.Call("TopTen");
     EXPECT_EQ(game.folder.Read("Data/Top"), before);
@@ -84,7 +84,7 @@ TEST(Ending, KeepsItsListInTheUsersFolderWhereTheProgramsIsClosed)
     test::TemporaryFolder user;
     test::TestGame game(files::ProgramFolder(test::Assets(), user.Path("quenvale")));
     game.StartGame();
-    game.Set({{"SwissBank", 90'000'000}});
+    game.Set({{"SwissBank", 900'000'000}});
     game.Call("TopTen");
     EXPECT_THAT(user.Read("quenvale/Data/Top"), StartsWith("\"Ada\""));
     EXPECT_THAT(user.Read("quenvale/Data/Top"), HasSubstr("Ladislao the Patient"))
