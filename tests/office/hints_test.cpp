@@ -67,7 +67,7 @@ TEST_F(Hints, CountWithTheRecord)
     EXPECT_NE(Of("frmChoose.Command1(2)").find("strength of 70 would join your personal army's 5"),
               std::string::npos);
     game_.Set({{"ActionDone[25]", 1}, {"PoliceNoInfo", 1}});
-    EXPECT_NE(Of("frmRev.Command1").find("21 flights of thirty"),
+    EXPECT_NE(Of("frmRev.Command1").find("arrives in 21 flights of thirty"),
               std::string::npos);  // of the handbook's table
     const std::string before = Of("frmTaxes.Command1");
     const std::int64_t opposition = game_.State().Opposition[core::Workers];
