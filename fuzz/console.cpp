@@ -1,5 +1,6 @@
 // Whatever lines the console is sent, each is answered with one JSON object or passed over, and a refused one
 // changes nothing.
+#include "console/play_folder.h"
 #include "console/session.h"
 #include "demand.h"
 
@@ -8,47 +9,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace {
-
-namespace fs = std::filesystem;
-
-// What the game writes lands in a folder of the fuzzer's own; it stays there, for the next run of lines.
-class Folder {
-public:
-    Folder() : path_((fs::temp_directory_path() / "quenvale-fuzz-XXXXXX").string())
-    {
-        if (mkdtemp(path_.data()) == nullptr) {
-            throw std::runtime_error("no temporary folder can be made at " + path_);
-        }
-        for (const fs::directory_entry& entry : fs::directory_iterator(files::ProgramFolder::Find().Root())) {
-            const fs::path target = fs::path(path_) / entry.path().filename();
-            if (entry.path().filename() == "images" || entry.path().filename() == "sound") {
-                fs::create_directory_symlink(entry.path(), target);
-            } else {
-                fs::copy(entry.path(), target, fs::copy_options::recursive);
-            }
-        }
-    }
-    ~Folder()
-    {
-        std::error_code ignored;
-        fs::remove_all(path_, ignored);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-
-    std::string StartLine() const { return "start \"" + path_ + '"'; }
-
-private:
-    std::string path_;
-};
 
 std::string Everything(console::Session& session)
 {
@@ -82,7 +47,8 @@ std::vector<std::string_view> LinesOf(std::string_view input)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const Folder folder;
+    // What the game writes lands there and stays, for the next run of lines.
+    static const console::PlayFolder folder;
     console::Session session;
     session.Answer(folder.StartLine());
     session.Answer("seed 1");

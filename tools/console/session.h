@@ -27,6 +27,9 @@ class Session {
 public:
     // One line, without its line end, and its reply; none for a blank line or a remark.
     std::optional<std::string> Answer(std::string_view line);
+    // The game behind the screens, for who looks there; null before the first start.
+    Game* Running() { return run_ ? &run_->game : nullptr; }
+    bool Ended() const { return run_ && run_->host.ended; }
 
 private:
     // A program from its start on.
