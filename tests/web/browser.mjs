@@ -1,11 +1,22 @@
 // A browser with the game's page in it, and a player's hands for both of its halves.
+import {mkdtempSync} from "node:fs";
+import {tmpdir} from "node:os";
+import {join} from "node:path";
 import puppeteer from "puppeteer-core";
 
 export const sleep = (ms) => new Promise((resolve) => setTimeout(resolve, ms));
 
+export const isFirefox = process.env.QUENVALE_BROWSER === "firefox";
+
+// What is downloaded lies in the folder `downloads` of the browser that is returned.
 export async function launch() {
-  return puppeteer.launch({executablePath: "/usr/bin/chromium", headless: true,
-    args: ["--no-sandbox", "--autoplay-policy=user-gesture-required"]});
+  const downloads = mkdtempSync(join(tmpdir(), "quenvale-brought-"));
+  const browser = await puppeteer.launch(isFirefox
+    ? {browser: "firefox", executablePath: "/usr/bin/firefox-esr", headless: true,
+      extraPrefsFirefox: {"browser.download.folderList": 2, "browser.download.dir": downloads, "dom.disable_beforeunload": true}}
+    : {executablePath: "/usr/bin/chromium", headless: true, downloadBehavior: {policy: "allow", downloadPath: downloads},
+      args: ["--no-sandbox", "--autoplay-policy=user-gesture-required"]});
+  return Object.assign(browser, {downloads});
 }
 
 export class Page {
