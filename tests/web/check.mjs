@@ -34,7 +34,7 @@ const welcomed = async (page) => page.waitFor("Next month");
 // Answers whatever stands in the way until the game has come so far, by the twin's words alone.
 const playUntil = async (page, isThere) => {
   // What a president says who wants it over with.
-  const wishes = ["OK", "Oh!", "Never!", "No", "Close", "Go on", "Next month"];
+  const wishes = ["OK", "Oh!", "Deal!", "Never!", "No", "Close", "Go on", "Next month"];
   for (let step = 0; step < 1500; ++step) {
     const screens = await page.screens();
     const buttons = screens.flatMap((screen) => screen.buttons);
