@@ -86,6 +86,9 @@ void Continuation::Resume()
     const auto game = kept_.Read(state_);
     if (!game || !*game) {
         Offer();
+        if (!game) {  // also when the second look found nothing wrong: he has pressed, and nothing came
+            screens_.frmStart.Label3.SetText(NotRead(game.Error()));
+        }
         return;
     }
     if (!asked_ && kept_.Altered()) {

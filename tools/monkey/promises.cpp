@@ -53,7 +53,7 @@ std::optional<std::string> Promises::Broken(Game& game)
     if (game.GetMonth().IsOpen() && !pause && !WaitsForPlayer(desktop, &game.GetScreens().frmMain)) {
         return "an open month has somebody who closes it: only the menu answers on " + Names(desktop);
     }
-    if (const auto broken = MonthClosesAtLast(game)) {
+    if (auto broken = MonthClosesAtLast(game)) {
         return broken;
     }
     return NumbersAgree(game);
