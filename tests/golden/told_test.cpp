@@ -48,7 +48,8 @@ public:
     {
         Add(form.Name());
         Add(form.Place());
-        Add(std::to_string(Number(form.Back())) + (form.Enabled() ? "+" : "-") + std::to_string(form.Shade()));
+        Add(std::to_string(Number(form.Back())) + (form.Enabled() ? "+" : "-") +
+            std::to_string(form.Shade()));
         for (const ui::Control* control : form.Controls()) {
             const ui::Control::State& now = control->Now();
             Add(now.rect);
