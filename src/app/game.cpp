@@ -7,6 +7,13 @@
 #include <tuple>
 #include <utility>
 
+namespace {
+
+// On the strip, where the whole message would not fit.
+constexpr std::string_view kNoVoice = "This machine has no voice: Speech Dispatcher does not answer.";
+
+}  // namespace
+
 Game::Game(media::Host& host, files::ProgramFolder folder, core::Chance chance, core::NumberFormat format)
     : Game(host, std::move(folder), std::move(chance), std::move(format),
            std::make_unique<files::SystemCalls>())
@@ -163,6 +170,7 @@ void Game::WireKeys()
     narrator_.report = [this](std::string_view message) {
         month::Say(screens_.frmMonthBanner, message);
         screens_.frmStart.Label3.SetText(message);
+        strip_.Say(kNoVoice);
     };
     desktop_.onKey = [this](ui::Key key) {
         if (narrator_.Press(key)) {
