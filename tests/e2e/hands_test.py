@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""A whole game, from the title to the hall of fame, by the mouse alone and by the keyboard alone."""
+"""A whole game, from the title to the hall of fame, by the mouse alone, by the keyboard alone and by a gamepad alone."""
+import os
 import time
 
 import stage
@@ -54,10 +55,45 @@ class Keyboard:
         self.game.hands("key", "Return")
 
 
+class Gamepad(Keyboard):
+    """A presses, the cross moves: the keys that mean the same are the console's."""
+    BUTTONS = {"Return": 0, "Escape": 1, "Up": 11, "Down": 12, "Left": 13, "Right": 14}
+
+    def __init__(self, game, console, pipe):
+        super().__init__(game, console)
+        self.pipe = pipe
+
+    def push(self, key):
+        self.pipe.write(f"{self.BUTTONS[key]}\n")
+        self.pipe.flush()
+        time.sleep(0.2)  # until it was let go
+
+    def press(self, key, name=None):
+        self.push(key)
+        self.console.ask(f"key {name or key}")
+
+    def answer(self, _):
+        self.press("Down")
+        self.press("Return")
+
+    def end_month(self):
+        for _ in range(5):  # along the menu
+            self.press("Right")
+        self.press("Return")
+
+    def end_pause(self):
+        self.push("Return")
+
+
 class Hands(stage.Case):
     def play(self, kind):
-        game, console = self.open_title(self.server((800, 600)), SEED)
-        hand = kind(game, console)
+        pad = self.scratch / "pad"
+        os.mkfifo(pad)
+        pipe = open(os.open(pad, os.O_RDWR), "w", encoding="ascii")
+        self.addCleanup(pipe.close)
+        more = {"QUENVALE_PAD": str(pad)} if kind is Gamepad else {}
+        game, console = self.open_title(self.server((800, 600)), SEED, **more)
+        hand = kind(game, console, pipe) if kind is Gamepad else kind(game, console)
         if kind is Mouse:
             game.click(stage.TITLE)
             console.ask("click frmlogo")
@@ -87,6 +123,9 @@ class Hands(stage.Case):
 
     def test_keyboard_alone(self):
         self.assertEqual(self.play(Keyboard).said(), "")
+
+    def test_gamepad_alone(self):
+        self.assertEqual(self.play(Gamepad).said(), "")
 
 
 if __name__ == "__main__":
