@@ -44,9 +44,10 @@ SettingsSheet::SettingsSheet(screens::FrmSettings& form, media::Sound& sound) : 
     form.cmdValue.OnClick([this](int row) { Step(row); });
     form.cmdAsDelivered.onClick = [this] {
         Change([this](Settings& s) {
-            const ui::Rect window = s.window;
+            const Settings before = s;
             s = delivered;
-            s.window = window;
+            s.window = before.window;
+            s.voiceOffered = before.voiceOffered;
         });
         sound_.SoundClick();
     };
