@@ -69,7 +69,7 @@ def environment_of(home, server=None, **more):
         "ASAN_OPTIONS": f"{os.environ.get('ASAN_OPTIONS', '')}:suppressions={HERE / 'asan.supp'}",
         "LSAN_OPTIONS": f"suppressions={HERE / 'lsan.supp'}:print_suppressions=0"}
     display = {"DISPLAY": server.name} if server else {}
-    settings = home / ".config" / "quenvale" / "settings"
+    settings = pathlib.Path(home) / ".config" / "quenvale" / "settings"
     if not settings.exists():  # a player who needs no hints, so that the console's picture is the window's
         settings.parent.mkdir(parents=True, exist_ok=True)
         settings.write_text("hints = off\n")
