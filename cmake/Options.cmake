@@ -15,6 +15,7 @@ if(NOT DEFINED CMAKE_COMPILE_WARNING_AS_ERROR)
     set(CMAKE_COMPILE_WARNING_AS_ERROR ON)
 endif()
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+add_compile_options(-fno-math-errno)  # nobody asks errno about a rounding, so that it may be one instruction
 
 # Nothing in what the player gets tells where it was built.
 add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")

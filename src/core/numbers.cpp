@@ -80,19 +80,13 @@ std::optional<std::string> TakeWhole(std::string_view& text, std::string_view gr
 std::int64_t RoundHalfEven(double value)
 {
     constexpr double kLimit = 9223372036854775808.0;  // 2^63
+    if (std::abs(value) < kLimit) {
+        return std::llrint(value);  // rounds as every program does that has not asked for anything else
+    }
     if (std::isnan(value)) {
         return 0;
     }
-    if (value >= kLimit) {
-        return std::numeric_limits<std::int64_t>::max();
-    }
-    if (value < -kLimit) {
-        return std::numeric_limits<std::int64_t>::min();
-    }
-    const double floor = std::floor(value);
-    const double rest = value - floor;
-    const bool up = rest > 0.5 || (rest == 0.5 && std::fmod(floor, 2.0) != 0.0);
-    return static_cast<std::int64_t>(up ? floor + 1.0 : floor);
+    return value > 0 ? std::numeric_limits<std::int64_t>::max() : std::numeric_limits<std::int64_t>::min();
 }
 
 std::int64_t ChangedByPercent(std::int64_t value, double percent)

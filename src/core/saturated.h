@@ -10,7 +10,6 @@
 // first (RoundHalfEven), a floating-point number does not compile here.
 #pragma once
 
-#include <algorithm>
 #include <concepts>
 #include <cstdint>
 #include <limits>
@@ -23,7 +22,11 @@ public:
     static constexpr std::int64_t kMax = std::numeric_limits<T>::max();
 
     constexpr Saturated() = default;
-    constexpr Saturated(std::int64_t value) : value_(static_cast<T>(std::clamp(value, kMin, kMax))) {}
+    constexpr Saturated(std::int64_t value)
+        : value_(static_cast<T>(value < kMin   ? kMin
+                                : value > kMax ? kMax
+                                               : value))
+    {}
     Saturated(std::floating_point auto) = delete;
 
     constexpr operator std::int64_t() const { return value_; }

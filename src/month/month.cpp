@@ -40,7 +40,8 @@ void Month::EndOfTurn()
     const std::int64_t treasury = state_.Money;
     core::CountMonth(state_);
     journal_.Add(core::Kind::Month, core::Who::Nobody, state_.Money - treasury);
-    Say(banner_, "You are in power for " + core::Digits(state_.MonthsInPower) + " months");
+    Say(banner_,
+        std::string("You are in power for ").append(core::Digits(state_.MonthsInPower)).append(" months"));
     open_ = true;
     TakeMenu();
     core::DecidePoliceReport(state_, chance_);

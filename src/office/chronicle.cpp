@@ -42,7 +42,7 @@ void ChronicleSheet::Begin()
 void ChronicleSheet::MonthClosed(const std::vector<core::Note>& notes)
 {
     if (rows_.size() == kMostRows) {
-        rows_.erase(rows_.begin(), rows_.begin() + kMostRows / 4);  // at once, so that it is seldom
+        rows_.pop_front();
     }
     rows_.push_back(RowOf(state_, notes));
 }

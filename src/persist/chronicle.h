@@ -13,6 +13,7 @@
 #include "files/text_records.h"
 
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,7 +35,7 @@ struct ChronicleRow {
     bool operator==(const ChronicleRow&) const = default;
 };
 
-using Chronicle = std::vector<ChronicleRow>;  // the oldest month first
+using Chronicle = std::deque<ChronicleRow>;  // the oldest month first; an endless one forgets it
 
 std::string PrintChronicle(const Chronicle& chronicle);
 files::Result<Chronicle> ParseChronicle(const std::vector<files::Item>& items, std::string_view file);

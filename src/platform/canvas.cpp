@@ -52,7 +52,9 @@ double BoxDistance(double x, double y, double halfWidth, double halfHeight, doub
 {
     const double dx = std::abs(x) - halfWidth + radius;
     const double dy = std::abs(y) - halfHeight + radius;
-    return std::hypot(std::max(dx, 0.0), std::max(dy, 0.0)) + std::min(std::max(dx, dy), 0.0) - radius;
+    const double outX = std::max(dx, 0.0);
+    const double outY = std::max(dy, 0.0);
+    return std::sqrt(outX * outX + outY * outY) + std::min(std::max(dx, dy), 0.0) - radius;
 }
 
 // How much of a pixel lies inside an edge at this distance from its middle.

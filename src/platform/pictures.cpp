@@ -5,7 +5,9 @@
 
 #include <SDL2/SDL_error.h>
 
+#include <algorithm>
 #include <iostream>
+#include <vector>
 
 namespace platform {
 
@@ -15,6 +17,11 @@ constexpr int kSmallPixels = 128 * 128;
 constexpr double kMostEnlarged = 1.25;
 // From here on four neighbours are all that a pixel is made of; a smaller picture would lose its dots.
 constexpr double kLeastForLinear = 0.75;
+
+std::int64_t Pixels(const SDL_Surface& picture)
+{
+    return std::int64_t{picture.w} * picture.h;
+}
 
 // "images/title.bmp" is also there as "images/2x/title.png".
 std::filesystem::path DoubleOf(const std::filesystem::path& file)
@@ -90,19 +97,34 @@ PictureSurface Pictures::Load(std::string_view file, int width, int height)
 SDL_Surface* Pictures::Get(std::string_view file, int width, int height)
 {
     auto [it, isNew] = kept_.try_emplace({std::string(file), width, height});
+    Entry& entry = it->second;
     if (isNew && !file.empty() && width > 0 && height > 0) {
-        it->second = Load(file, width, height);
+        entry.picture = Load(file, width, height);
     }
-    return it->second.get();
+    entry.used = ++uses_;
+    return entry.picture.get();
 }
 
 void Pictures::KeepOnly(const std::function<bool(const std::string& file)>& isShown)
 {
-    std::erase_if(kept_, [&isShown](const auto& entry) {
-        const PictureSurface& picture = entry.second;
-        const bool small = picture && picture->w * picture->h <= kSmallPixels;
-        return !small && !isShown(std::get<0>(entry.first));
-    });
+    using Place = decltype(kept_)::iterator;
+    std::vector<Place> spare;
+    for (auto it = kept_.begin(); it != kept_.end(); ++it) {
+        const PictureSurface& picture = it->second.picture;
+        const bool small = picture && Pixels(*picture) <= kSmallPixels;
+        if (!small && !isShown(std::get<0>(it->first))) {
+            spare.push_back(it);
+        }
+    }
+    std::sort(spare.begin(), spare.end(), [](Place a, Place b) { return a->second.used > b->second.used; });
+    std::int64_t pixels = 0;
+    for (const Place place : spare) {
+        const PictureSurface& picture = place->second.picture;
+        pixels += picture ? Pixels(*picture) : 0;
+        if (!picture || pixels > kSparePixels) {  // what could not be read may be there the next time
+            kept_.erase(place);
+        }
+    }
 }
 
 }  // namespace platform

@@ -6,8 +6,9 @@
 // A picture that would be enlarged by more than a quarter is read from the file of twice the size,
 // "images/2x/title.png", when there is one. Only the file in use is read.
 //
-// A large picture is kept only while a screen that shows it is up; after painting, KeepOnly says which
-// those are. Small ones (the menu's keys, the marks) stay.
+// A large picture is kept while a screen that shows it is up; after painting, KeepOnly says which those are. Of
+// the others the last ones used stay, for who goes to and fro, as far as kSparePixels reach. Small ones (the
+// menu's keys, the marks) stay all.
 #pragma once
 
 #include "files/program_folder.h"
@@ -15,6 +16,7 @@
 
 #include <SDL2/SDL_surface.h>
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <set>
@@ -26,6 +28,8 @@ namespace platform {
 
 class Pictures {
 public:
+    static constexpr std::int64_t kSparePixels = 480'000;
+
     explicit Pictures(const files::ProgramFolder& folder) : folder_(folder) {}
 
     // Width and height in pixels of the surface. The result lives until KeepOnly drops it.
@@ -47,7 +51,12 @@ private:
     void Tell(const std::string& file, const std::string& reason);
 
     files::ProgramFolder folder_;
-    std::map<std::tuple<std::string, int, int>, PictureSurface> kept_;
+    struct Entry {
+        PictureSurface picture;
+        std::int64_t used = 0;  // the larger, the later
+    };
+    std::map<std::tuple<std::string, int, int>, Entry> kept_;
+    std::int64_t uses_ = 0;
     std::set<std::string> told_;
 };
 

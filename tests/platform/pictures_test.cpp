@@ -106,18 +106,24 @@ TEST(Pictures, AreRefusedWhenTheyAreMissingOrBroken)
     }
 }
 
-TEST(Pictures, AreKeptAsLongAsTheyAreShown)
+TEST(Pictures, AreKeptWhileTheyAreShownAndTheLastOnesAWhileLonger)
 {
     test::TemporaryFolder folder;
-    SaveBmp(folder, "large.bmp", 400, 300);
+    SaveBmp(folder, "large.bmp", 800, 600);
+    SaveBmp(folder, "older.bmp", 800, 600);
     SaveBmp(folder, "small.bmp", 20, 20);
     Pictures pictures{files::ProgramFolder(folder.Path())};
-    SDL_Surface* large = pictures.Get("large.bmp", 400, 300);
+    pictures.Get("older.bmp", 800, 600);
     pictures.Get("small.bmp", 20, 20);
-    pictures.KeepOnly([](const std::string& file) { return file == "large.bmp"; });
-    EXPECT_EQ(pictures.Get("large.bmp", 400, 300), large);
+    SDL_Surface* large = pictures.Get("large.bmp", 800, 600);
+    for (int times = 0; times < 3; ++times) {
+        pictures.KeepOnly([](const std::string& file) { return file == "large.bmp"; });
+        EXPECT_EQ(pictures.Get("large.bmp", 800, 600), large);
+    }
+    EXPECT_EQ(pictures.Kept(), 3U);
     pictures.KeepOnly([](const std::string&) { return false; });
-    EXPECT_EQ(pictures.Kept(), 1U);  // the small one is not worth reading again
+    EXPECT_EQ(pictures.Kept(), 2U);  // the last one used, and the small one, which is not worth reading again
+    EXPECT_EQ(pictures.Get("large.bmp", 800, 600), large);
 }
 
 TEST(Pictures, AMissingOneShowsItsFrameAndCaption)

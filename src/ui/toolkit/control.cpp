@@ -43,12 +43,10 @@ void Control::MarkDirty() const
 
 template <class T> void Control::Change(T& field, const T& value)
 {
-    if (field == value) {
-        return;
+    if (field != value) {
+        field = value;
+        MarkDirty();
     }
-    MarkDirty();  // where it was ...
-    field = value;
-    MarkDirty();  // ... and where it is
 }
 
 void Control::SetText(std::string_view text)
@@ -70,7 +68,12 @@ void Control::SetPicture(std::string_view file)
 
 void Control::SetRect(const Rect& rect)
 {
-    Change(state_.rect, rect);
+    if (state_.rect == rect) {
+        return;
+    }
+    MarkDirty();  // where it was ...
+    state_.rect = rect;
+    MarkDirty();  // ... and where it is
 }
 
 void Control::SetFolded(bool folded)

@@ -180,12 +180,14 @@ Refusal Desktop::Refused(const Control& control) const
     if (Refusal refusal = Refused(control.GetForm())) {
         return refusal;
     }
-    const std::string name = control.GetForm().Name() + "." + control.Name();
+    const auto because = [&control](const char* reason) {
+        return control.GetForm().Name() + "." + control.Name() + reason;
+    };
     if (!control.Now().visible) {
-        return name + " is hidden";
+        return because(" is hidden");
     }
     if (!control.Now().enabled) {
-        return name + " is disabled";
+        return because(" is disabled");
     }
     return std::nullopt;
 }
@@ -441,17 +443,22 @@ void Desktop::PointerUp(Point at)
 
 // Time ------------------------------------------------------------------------------------------------
 
-std::optional<std::int64_t> Desktop::NextDue() const
+// Those of one moment fire in the order in which they were made.
+Timer* Desktop::NextTimer() const
 {
-    std::optional<std::int64_t> next;
-    for (const Form* form : forms_) {
-        for (const Timer* timer : form->Timers()) {
-            if (timer->Armed() && (!next || timer->Due() < *next)) {
-                next = timer->Due();
-            }
+    Timer* next = nullptr;
+    for (Timer* timer : timers_) {
+        if (timer->Armed() && (next == nullptr || timer->Due() < next->Due())) {
+            next = timer;
         }
     }
     return next;
+}
+
+std::optional<std::int64_t> Desktop::NextDue() const
+{
+    const Timer* next = NextTimer();
+    return next == nullptr ? std::nullopt : std::optional(next->Due());
 }
 
 std::optional<std::int64_t> Desktop::PauseEnd() const
@@ -468,34 +475,14 @@ bool Desktop::SkipPause()
     return due.has_value();
 }
 
-// Fires the first of the timers that fall due earliest; those of one moment fire in their forms' order.
-void Desktop::FireNext(std::int64_t until, bool& fired)
-{
-    fired = false;
-    const std::optional<std::int64_t> due = NextDue();
-    if (!due || *due > until) {
-        return;
-    }
-    for (const Form* form : forms_) {
-        for (Timer* timer : form->Timers()) {
-            if (timer->Armed() && timer->Due() == *due) {
-                now_ = std::max(now_, *due);
-                fired = true;
-                cause_ = Cause::Time;
-                Dispatch([timer] { timer->Fire(); });
-                cause_ = Cause::Player;
-                return;
-            }
-        }
-    }
-}
-
 void Desktop::Advance(std::int64_t milliseconds)
 {
     const std::int64_t until = now_ + milliseconds;
-    bool fired = true;
-    while (fired) {
-        FireNext(until, fired);
+    for (Timer* timer = NextTimer(); timer != nullptr && timer->Due() <= until; timer = NextTimer()) {
+        now_ = std::max(now_, timer->Due());
+        cause_ = Cause::Time;
+        Dispatch([timer] { timer->Fire(); });
+        cause_ = Cause::Player;
     }
     now_ = until;
 }

@@ -188,13 +188,14 @@ public:
 
 private:
     void Add(Form& form) override { forms_.push_back(&form); }
+    void Add(Timer& timer) override { timers_.push_back(&timer); }
     void BringToFront(Form& form) override;
     void Remove(Form& form) override;
     void AfterEvent(std::function<void()> action) override { pending_.push_back(std::move(action)); }
 
     void Settle();
     void Tell(Cause cause) const;
-    void FireNext(std::int64_t until, bool& fired);
+    Timer* NextTimer() const;
 
     Refusal Refused(const Form& form) const;
     Refusal Refused(const Control& control) const;
@@ -218,6 +219,7 @@ private:
     std::string Clipboard() const;
 
     std::vector<Form*> forms_;
+    std::vector<Timer*> timers_;  // of all forms
     std::vector<Form*> shown_;
     Form* note_ = nullptr;
     std::vector<std::function<void()>> pending_;

@@ -116,11 +116,8 @@ void Form::ShowModal(std::function<void()> afterwards)
     Present(true);
 }
 
-void Form::Hide()
+void Form::Withdraw()
 {
-    if (!visible_) {
-        return;
-    }
     MarkAll();
     visible_ = false;
     modal_ = false;

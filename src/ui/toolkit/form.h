@@ -70,7 +70,12 @@ public:
     void Load();
     void Show();
     void ShowModal(std::function<void()> afterwards = {});
-    void Hide();
+    void Hide()
+    {
+        if (visible_) {  // the menu hides everything that it could have left open, at each press
+            Withdraw();
+        }
+    }
     void Unload();
 
     std::function<void()> onLoad;
@@ -88,7 +93,12 @@ public:
 private:
     Form& GetForm() override { return *this; }
     void Add(Control& control) override { controls_.push_back(&control); }
-    void Add(Timer& timer) override { timers_.push_back(&timer); }
+    void Add(Timer& timer) override
+    {
+        timers_.push_back(&timer);
+        stage_.Add(timer);
+    }
+    void Withdraw();
     void MarkDirty(const Rect& rect) const override;
     std::int64_t Now() const override { return stage_.Now(); }
 

@@ -12,10 +12,12 @@
 namespace ui {
 
 class Form;
+class Timer;
 
 class Stage {
 public:
-    virtual void Add(Form& form) = 0;                           // once, when the screen is built
+    virtual void Add(Form& form) = 0;  // once, when the screen is built
+    virtual void Add(Timer& timer) = 0;
     virtual void BringToFront(Form& form) = 0;                  // in front of all that may stand behind it
     virtual void Remove(Form& form) = 0;                        // it is no longer shown
     virtual void AfterEvent(std::function<void()> action) = 0;  // when the running handler has returned
