@@ -1,19 +1,11 @@
 // How many months a second the game plays without a window: the menu's click, three seconds of the virtual
 // clock, the month's chain and its end. items_per_second is months a second.
 #include "app/game.h"
+#include "media/silent_host.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
-
-class SilentHost : public media::Host {
-public:
-    void PlayWave(std::string_view /*file*/) override {}
-    void SwitchDisplayMode() override {}
-    void RestoreDisplayMode() override {}
-    void OpenDocument(std::string_view /*file*/, std::string_view /*chapter*/) override {}
-    void EndProgram() override {}
-};
 
 // Keeps the country quiet, so that every month runs the whole chain without an event that waits for somebody.
 void Calm(core::GameState& state)
@@ -30,7 +22,7 @@ void Calm(core::GameState& state)
 
 void PlayMonths(benchmark::State& bench)
 {
-    SilentHost host;
+    media::SilentHost host;
     Game game(host, files::ProgramFolder::Find(), core::Chance());
     ui::Desktop& desktop = game.GetDesktop();
     screens::Screens& screens = game.GetScreens();

@@ -33,7 +33,7 @@ std::string NameOf(std::size_t figure)
 
 files::Result<Items> ReadItemsOf(const files::ProgramFolder& folder, std::string_view file, std::size_t count)
 {
-    files::Result<Items> items = files::ReadItems(folder.Path(file), file);
+    files::Result<Items> items = folder.Items(file);
     if (items && items->size() != count) {
         const int line = items->size() > count ? (*items)[count].line
                          : items->empty()      ? 0

@@ -88,7 +88,7 @@ void AdjustChiefs(GameState& state)
 files::Result<std::vector<std::string>> ReadNames(const files::ProgramFolder& folder)
 {
     const files::Result<std::vector<files::Item>> items =
-        files::ReadItems(folder.Path(kNamesFile), kNamesFile);
+        folder.Items(kNamesFile);
     if (!items) {
         return items.Error();
     }

@@ -99,4 +99,20 @@ ProgramFolder ProgramFolder::Find()
     return At(beside, Place::Portable);
 }
 
+Result<std::vector<Item>> ProgramFolder::Items(std::string_view file) const
+{
+    if (!remembered_) {
+        return ReadItems(Path(file), file);
+    }
+    auto found = remembered_->find(file);
+    if (found == remembered_->end()) {
+        Result<std::vector<Item>> items = ReadItems(Path(file), file);
+        if (!items) {
+            return items;
+        }
+        found = remembered_->emplace(file, *items).first;
+    }
+    return found->second;
+}
+
 }  // namespace files

@@ -15,9 +15,17 @@
 //     folder.WritePath("Data/Top")      // where its next version goes
 #pragma once
 
+#include "files/result.h"
+#include "files/text_records.h"
+
 #include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace files {
 
@@ -41,12 +49,20 @@ public:
     // The whole path of a file named with '/' below the folder: "sound/click.wav".
     std::filesystem::path Path(std::string_view file) const { return root_ / file; }
 
+    // The records of a shipped file, as they are now; once this folder remembers, as they were the first time.
+    Result<std::vector<Item>> Items(std::string_view file) const;
+    // For who plays thousands of games in one go. Copies of this folder remember together: for one thread.
+    void Remember() { remembered_ = std::make_shared<Remembered>(); }
+
     std::filesystem::path WritePath(std::string_view file) const { return written_ / file; }
     std::filesystem::path ReadPath(std::string_view file) const;
 
 private:
+    using Remembered = std::map<std::string, std::vector<Item>, std::less<>>;
+
     std::filesystem::path root_;
     std::filesystem::path written_;
+    std::shared_ptr<Remembered> remembered_;
 };
 
 }  // namespace files
