@@ -144,6 +144,7 @@ void Game::WireShell()
 // lost his coup.
 void Game::WireEvents()
 {
+    variants_.onTrouble = [this](const files::FileError& error) { TellBeside(error.Message()); };
     actions_.showAction = [this] { actionCards_.ShowAction(); };
 
     using Afterwards = std::function<void()>;
@@ -244,13 +245,17 @@ void Game::WireOffice()
     };
 }
 
-// On the strip, or where it is covered in the line of the hints; and by ear.
 void Game::SayWhyNot()
 {
     if (!screens_.frmMain.Visible()) {
         return;
     }
-    const std::string line = guide_.WhyNot();
+    TellBeside(guide_.WhyNot());
+}
+
+// On the strip, or where it is covered in the line of the hints; and by ear.
+void Game::TellBeside(const std::string& line)
+{
     if (strip_.Shown()) {
         strip_.Say(line);
     } else {

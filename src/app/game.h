@@ -12,6 +12,7 @@
 #include "core/game_state.h"
 #include "core/journal.h"
 #include "core/numbers.h"
+#include "core/variants.h"
 #include "events/action_cards.h"
 #include "events/newspaper.h"
 #include "events/proposals.h"
@@ -87,6 +88,8 @@ public:
     const files::ProgramFolder& Folder() const { return folder_; }
     // Whether closed months are kept for "Continue"; off at first.
     void Autosave(bool on) { continuation_.Keep(on); }
+    // Whether cards and newspaper change their words from month to month; off at first, so that a text is the file's.
+    void Vary(bool on) { variants_.on = on; }
     const persist::Chronicle& GetChronicle() const { return chronicle_.Rows(); }
     office::SettingsSheet& GetSettings() { return settings_; }
     // Silent until it is switched on and given a voice.
@@ -104,6 +107,7 @@ private:
     void WireKeys();
     void WireOffice();
     void SayWhyNot();
+    void TellBeside(const std::string& line);
     void CarryOut(const office::Settings& settings);
     void ListRoutines();
 
@@ -115,6 +119,7 @@ private:
     core::Chance chance_;
     core::GameState state_;
     core::Journal journal_{state_};
+    core::Variants variants_{state_, folder_};
     ui::Desktop desktop_;
     screens::Screens screens_{desktop_};
     reading::Narrator narrator_{desktop_};
@@ -133,19 +138,31 @@ private:
         sound_,    format_,
         newspaper_};
     events::Requests requests_{
-        state_, chance_, journal_, month_, folder_, screens_.frmMonthBanner, screens_.frmShow2, sound_};
+        state_, chance_, journal_, month_, folder_, variants_, screens_.frmMonthBanner, screens_.frmShow2,
+        sound_};
     events::RandomEvents randomEvents_{state_, chance_, journal_,  month_, screens_.frmRandom2,
                                        sound_, format_, newspaper_};
-    events::ActionCards actionCards_{
-        state_, journal_,  folder_, {screens_.frmMonthBanner, screens_.frmActions, screens_.frmShow},
-        sound_, proposals_};
+    events::ActionCards actionCards_{state_,
+                                     journal_,
+                                     folder_,
+                                     variants_,
+                                     {screens_.frmMonthBanner, screens_.frmActions, screens_.frmShow},
+                                     sound_,
+                                     proposals_};
 
     // The threats.
     threats::Flight flight_{state_, chance_, journal_, screens_.frmMain, screens_.frmMonthBanner, sound_};
     threats::CivilWar civilWar_{
-        state_, chance_, journal_,
-        month_, folder_, {screens_.frmMain, screens_.frmMonthBanner, screens_.frmChoose, screens_.frmMes2},
-        sound_, format_, flight_};
+        state_,
+        chance_,
+        journal_,
+        month_,
+        folder_,
+        variants_,
+        {screens_.frmMain, screens_.frmMonthBanner, screens_.frmChoose, screens_.frmMes2},
+        sound_,
+        format_,
+        flight_};
     threats::Revolution revolution_{state_,          chance_, journal_, screens_.frmMonthBanner,
                                     screens_.frmRev, sound_,  flight_,  civilWar_};
     threats::Revolts revolts_{

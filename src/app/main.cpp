@@ -16,6 +16,7 @@ int main()
     Game game(host, files::ProgramFolder::Find(), core::Chance(timeOfDay));
     host.place = UseSettings(game);
     game.Autosave(true);
+    game.Vary(true);
     game.Start();
     const ui::Rect before = host.place;
     const int status = platform::Run(game.GetDesktop(), game.GetNarrator(), host, game.Folder());

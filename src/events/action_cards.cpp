@@ -24,10 +24,12 @@ std::string CardOf(const core::GameState& state)
 }  // namespace
 
 ActionCards::ActionCards(core::GameState& state, core::Journal& journal, const files::ProgramFolder& folder,
-                         Screens screens, media::Sound& sound, Proposals& proposals)
+                         const core::Variants& variants, Screens screens, media::Sound& sound,
+                         Proposals& proposals)
     : state_(state)
     , journal_(journal)
     , folder_(folder)
+    , variants_(variants)
     , screens_(screens)
     , sound_(sound)
     , proposals_(proposals)
@@ -58,11 +60,12 @@ void ActionCards::ShowAction()
 
 void ActionCards::MakeAction()
 {
-    const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
+    files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
     if (!card) {
         TellBadCard(screens_.frmMonthBanner, kCard, card.Error());
         return;
     }
+    variants_.Vary(core::Digits(state_.ActionChoice), {&card->result});
     core::Apply(card->effects, state_);
     month::Say(screens_.frmMonthBanner, card->result);
     ApplyActionEffect(state_.ActionChoice, state_);

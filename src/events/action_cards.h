@@ -6,6 +6,7 @@
 
 #include "core/game_state.h"
 #include "core/journal.h"
+#include "core/variants.h"
 #include "events/proposals.h"
 #include "files/program_folder.h"
 #include "media/cues.h"
@@ -25,7 +26,7 @@ public:
         screens::FrmShow& frmShow;
     };
     ActionCards(core::GameState& state, core::Journal& journal, const files::ProgramFolder& folder,
-                Screens screens, media::Sound& sound, Proposals& proposals);
+                const core::Variants& variants, Screens screens, media::Sound& sound, Proposals& proposals);
 
     // The president picks a new chief; what follows is handed over.
     std::function<void(std::function<void()> afterwards)> newPoliceChief;
@@ -41,6 +42,7 @@ private:
     core::GameState& state_;
     core::Journal& journal_;
     const files::ProgramFolder& folder_;
+    const core::Variants& variants_;
     Screens screens_;
     media::Sound& sound_;
     Proposals& proposals_;

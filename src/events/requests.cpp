@@ -17,21 +17,22 @@ namespace {
 constexpr std::string_view kCard = "this month's request";
 constexpr std::int64_t kOffence = 10;  // percent of the faction that take a refusal ill
 
-std::string CardOf(const core::GameState& state)
+std::string NameOfCard(const core::GameState& state)
 {
-    return "Actions/M" + core::Digits(state.RequestDraw);
+    return "M" + core::Digits(state.RequestDraw);
 }
 
 }  // namespace
 
 Requests::Requests(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
-                   const files::ProgramFolder& folder, screens::FrmMonthBanner& banner,
-                   screens::FrmShow2& dialog, media::Sound& sound)
+                   const files::ProgramFolder& folder, const core::Variants& variants,
+                   screens::FrmMonthBanner& banner, screens::FrmShow2& dialog, media::Sound& sound)
     : state_(state)
     , chance_(chance)
     , journal_(journal)
     , month_(month)
     , folder_(folder)
+    , variants_(variants)
     , banner_(banner)
     , dialog_(dialog)
     , sound_(sound)
@@ -60,6 +61,17 @@ void Requests::Request()
     ShowAction2();
 }
 
+// What they say and what is answered belong together, so both follow the month.
+files::Result<core::Card> Requests::ReadThisCard() const
+{
+    const std::string name = NameOfCard(state_);
+    files::Result<core::Card> card = core::ReadCard(folder_, "Actions/" + name);
+    if (card) {
+        variants_.Vary(name, {&card->title, &card->result});
+    }
+    return card;
+}
+
 void Requests::ShowAction2()
 {
     if (NobodyToRelease(state_)) {
@@ -67,7 +79,7 @@ void Requests::ShowAction2()
         return;
     }
     month_.TakeMenu();
-    const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
+    const files::Result<core::Card> card = ReadThisCard();
     if (!card) {
         TellBadCard(banner_, kCard, card.Error());
         month_.Close();
@@ -81,7 +93,7 @@ void Requests::ShowAction2()
 
 void Requests::MakeRequest()
 {
-    const files::Result<core::Card> card = core::ReadCard(folder_, CardOf(state_));
+    const files::Result<core::Card> card = ReadThisCard();
     if (card) {
         core::Apply(card->effects, state_);
         month::Say(banner_, card->result);

@@ -22,16 +22,22 @@ constexpr std::string_view kLostPicture = "images/execution.png";
 constexpr std::string_view kWonPicture = "images/civilwar-won.png";
 constexpr std::string_view kWon = "You win! Revolutioneries' leaders were arrested and executed!";
 
+std::string NameOfOffer(std::int64_t faction)
+{
+    return "R" + core::Digits(faction);
+}
+
 }  // namespace
 
 CivilWar::CivilWar(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
-                   const files::ProgramFolder& folder, Screens screens, media::Sound& sound,
-                   const core::NumberFormat& format, Flight& flight)
+                   const files::ProgramFolder& folder, const core::Variants& variants, Screens screens,
+                   media::Sound& sound, const core::NumberFormat& format, Flight& flight)
     : state_(state)
     , chance_(chance)
     , journal_(journal)
     , month_(month)
     , folder_(folder)
+    , variants_(variants)
     , screens_(screens)
     , sound_(sound)
     , format_(format)
@@ -129,11 +135,12 @@ void CivilWar::Ask(int button)
 {
     sound_.SoundClick();
     const std::int64_t faction = state_.ChoiceFaction.at(static_cast<std::size_t>(button));
-    const files::Result<core::Offer> offer = ReadOfferOf(faction);
+    files::Result<core::Offer> offer = ReadOfferOf(faction);
     if (!offer) {
         TurnAway(faction, offer.Error());
         return;
     }
+    variants_.Vary(NameOfOffer(faction), {&offer->text});
     state_.AlliedStrength =
         state_.Strength[core::GroupOfFaction(faction)] + state_.Strength[core::PersonalArmy];
     state_.AllyFaction = faction;
@@ -144,7 +151,7 @@ void CivilWar::Ask(int button)
 
 files::Result<core::Offer> CivilWar::ReadOfferOf(std::int64_t faction) const
 {
-    return core::ReadOffer(folder_, "Actions/R" + core::Digits(faction));
+    return core::ReadOffer(folder_, "Actions/" + NameOfOffer(faction));
 }
 
 // The dialog lies over the banner, so it repeats what the banner says.

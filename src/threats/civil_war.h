@@ -12,6 +12,7 @@
 #include "core/game_state.h"
 #include "core/journal.h"
 #include "core/numbers.h"
+#include "core/variants.h"
 #include "files/program_folder.h"
 #include "media/cues.h"
 #include "month/month.h"
@@ -34,8 +35,8 @@ public:
         screens::FrmMes2& frmMes2;
     };
     CivilWar(core::GameState& state, core::Chance& chance, core::Journal& journal, month::Month& month,
-             const files::ProgramFolder& folder, Screens screens, media::Sound& sound,
-             const core::NumberFormat& format, Flight& flight);
+             const files::ProgramFolder& folder, const core::Variants& variants, Screens screens,
+             media::Sound& sound, const core::NumberFormat& format, Flight& flight);
 
     void StandAgainst(ui::Form& dialog);  // "Stay and fight!"
     void Choose();
@@ -67,6 +68,7 @@ private:
     core::Journal& journal_;
     month::Month& month_;
     const files::ProgramFolder& folder_;
+    const core::Variants& variants_;
     Screens screens_;
     media::Sound& sound_;
     const core::NumberFormat& format_;

@@ -36,6 +36,7 @@ READ_BY = [
     (r'Actions/M(\d)', ['set RequestDraw {}', 'call ShowAction2', 'banner']),
     (r'Actions/R(\d)', [f'set Revolutionaries[{n}] 1' for n in range(1, 8)] +
      ['set Revolutionaries[{}] 0', 'call Choose', 'click frmChoose.Command1(1)', 'banner']),
+    (r'Data/variants/(\d+)', ['variants on', 'set ActionChoice {}', 'call MakeAction', 'text frmStrip.lblLine']),
     (r'data/names', ['call CreateChiefs', 'banner']),
     (r'Data/Top', ['call See', 'banner']),
     (r'Data/Manual.htm', ['key F1', 'banner']),

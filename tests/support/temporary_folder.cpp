@@ -34,11 +34,14 @@ TemporaryFolder::~TemporaryFolder()
 // A folder of the game's own files is a link until a test changes something in it.
 void TemporaryFolder::OwnFolderOf(std::string_view file) const
 {
-    const fs::path folder = path_ / *fs::path(file).begin();
-    if (fs::is_symlink(folder)) {
-        const fs::path original = fs::read_symlink(folder);
-        fs::remove(folder);
-        fs::copy(original, folder, fs::copy_options::recursive);
+    fs::path folder = path_;
+    for (const fs::path& part : fs::path(file)) {
+        folder /= part;
+        if (fs::is_symlink(folder)) {
+            const fs::path original = fs::read_symlink(folder);
+            fs::remove(folder);
+            fs::copy(original, folder, fs::copy_options::recursive);
+        }
     }
 }
 
@@ -81,6 +84,7 @@ void TemporaryFolder::FillWithAssets() const
     for (const char* file : {"Data/Manual.htm", "Data/Top"}) {
         fs::copy(Assets() / file, Path(file));
     }
+    fs::create_directory_symlink(Assets() / "Data/variants", Path("Data/variants"));
 }
 
 }  // namespace test

@@ -8,7 +8,7 @@ import tempfile
 import unittest
 
 HERE = pathlib.Path(__file__).resolve().parent
-CARDS = HERE.parents[1] / "assets/Actions"
+ASSETS = HERE.parents[1] / "assets"
 
 # why, card, what is replaced, by what, the line of the complaint, a part of the complaint
 FAULTS = (
@@ -28,6 +28,14 @@ FAULTS = (
     ("a title of one word", "7", "a more modest parade", "parades", 4, "title: expected 2 to 8 words, found 1"),
     ("the price of an offer left out", "R7", "from the army", "from them", 1, "name Army, whose opposition"),
     ("a gain from two cards in turns", "8", "2,2,1", "2,1,1", 2, "opposition of Peasants: expected no gain"),
+    ("a variant that forgets who pays", "../Data/variants/R7", "of the army's money", "of their money", 1, "name Army"),
+    ("a variant of another size", "../Data/variants/M4", '."\r\n"Mr.President, the decree', '. Mr.President, the decree', 5,
+     "expected sets of 2 texts, found 5"),
+    ("a variant with a figure", "../Data/variants/21", "twenty thousand", "20,021", 2, "expected no figures"),
+    ("a variant too long for the banner", "../Data/variants/10", "It breathes", "It breathes" + ", slowly" * 15, 2,
+     "result: expected at most 150 characters"),
+    ("a variant that begins like another card's", "../Data/variants/7", "the cavalry has", "the army has", 1,
+     "expected an opening of its own"),
     ("a gain from asking again and again", "24", "3,2,0", "3,-2,0", 2, "this action can be repeated"),
 )
 
@@ -43,7 +51,8 @@ class Check(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.folder = pathlib.Path(scratch.name) / "Actions"
-        shutil.copytree(CARDS, self.folder)
+        for name in ("Actions", "Data/variants"):
+            shutil.copytree(ASSETS / name, self.folder.parent / name)
 
     def test_finds_each_fault_where_it_is(self):
         for why, name, old, new, line, complaint in FAULTS:
@@ -55,15 +64,17 @@ class Check(unittest.TestCase):
                 status, said = complaints(self.folder)
                 card.write_bytes(good)
                 self.assertEqual(status, 1)
-                self.assertIn(f"{name}:{line}: ", said)
+                self.assertIn(f"{card.name}:{line}: ", said)
                 self.assertIn(complaint, said)
 
     def test_finds_missing_files_and_strangers(self):
         (self.folder / "M3").rename(self.folder / "M8")
+        (self.folder.parent / "Data/variants/9").unlink()
         status, said = complaints(self.folder)
         self.assertEqual(status, 1)
         self.assertIn("M3:1: cannot be read", said)
         self.assertIn("M8:1: expected no other file", said)
+        self.assertIn("variants/9:1: cannot be read", said)
 
     def test_accepts_the_cards_of_the_game(self):
         self.assertEqual(complaints(self.folder), (0, ""))

@@ -82,6 +82,7 @@ std::span<const Session::Request> Session::Requests()
         Request{"set", When::WhileRunning, &Session::Set},
         Request{"autosave", When::WhileRunning, &Session::Autosave},
         Request{"narration", When::WhileRunning, &Session::Narration},
+        Request{"variants", When::WhileRunning, &Session::Variants},
         Request{"seed", When::WhileRunning, &Session::Seed},
         Request{"draws", When::WhileRunning, &Session::Draws},
         Request{"screen", When::Started, &Session::Screen},
@@ -291,6 +292,12 @@ void Session::Autosave(Words& words, Json& /*reply*/)
 void Session::Narration(Words& words, Json& /*reply*/)
 {
     run_->game.GetNarrator().Switch(TakeOnOff(words, "narration"));
+}
+
+// Off at the start: a card then reads as its file has it.
+void Session::Variants(Words& words, Json& /*reply*/)
+{
+    run_->game.Vary(TakeOnOff(words, "variants"));
 }
 
 void Session::Seed(Words& words, Json& /*reply*/)

@@ -4,6 +4,7 @@
 //     session.Answer("start");                  // {"ok":true}
 //     session.Answer("click frmlogo");
 //     session.Answer("# a remark");             // nothing
+//     session.Answer("variants on");            // cards change their words from month to month; off at the start
 //
 // A request that is refused changes nothing, and no line of whatever bytes ends the session.
 #pragma once
@@ -75,6 +76,7 @@ private:
     void Set(Words& words, Json& reply);
     void Autosave(Words& words, Json& reply);
     void Narration(Words& words, Json& reply);
+    void Variants(Words& words, Json& reply);
     void Seed(Words& words, Json& reply);
     void Draws(Words& words, Json& reply);
 

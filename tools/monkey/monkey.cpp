@@ -196,8 +196,8 @@ std::string Monkey::Paint(Game& /*game*/)
 
 std::string Monkey::Switch(Game& /*game*/)
 {
-    constexpr std::array<std::string_view, 4> kSwitches{"narration on", "narration off", "autosave on",
-                                                        "read"};
+    constexpr std::array<std::string_view, 5> kSwitches{"narration on", "narration off", "autosave on",
+                                                        "variants on", "read"};
     return std::string(OneOf(kSwitches));
 }
 

@@ -21,6 +21,7 @@ int main()
     static Game game(host, folder, core::Chance(timeOfDay), core::NumberFormat::OfUser(), std::move(owned));
     UseSettings(game, {.fullScreen = false}, [] { files.Keep(); });
     game.Autosave(true);
+    game.Vary(true);
     game.Start();
     platform::Start({game.GetDesktop(), game.GetNarrator(), host, files}, game.Folder());
     return 0;
