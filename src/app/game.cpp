@@ -112,7 +112,7 @@ void Game::WireShell()
     };
     savedGames_.onSaved = [this](std::string_view file) {
         if (continuation_.Keeps()) {
-            chronicle_.Keep(file);
+            chronicle_.Keep(file, journal_.Notes());
             std::ignore = savedGames_.NotePresident(file);  // the game itself is safe
         }
     };
@@ -239,6 +239,13 @@ void Game::WireOffice()
     narrator_.onOffered = [this] {
         settings_.Change([](office::Settings& settings) { settings.voiceOffered = true; });
     };
+    // Judged at once: the hall comes seconds later, when the notes of the last month may be gone.
+    journal_.Listen([this](const core::Note& note) {
+        if (note.kind == core::Kind::End) {
+            stamp_ = office::StampOf(office::ChallengesMet(state_, chronicle_.Rows(), journal_.Notes()));
+        }
+    });
+    hall_.stampOf = [this] { return std::exchange(stamp_, {}); };
     hall_.onEntered = [this](int place, const std::string& points) {
         farewell_.Print(place, points);
         continuation_.GameOver();

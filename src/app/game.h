@@ -33,6 +33,7 @@
 #include "month/month.h"
 #include "month/new_game.h"
 #include "office/backdrop.h"
+#include "office/challenge_rules.h"
 #include "office/chronicle.h"
 #include "office/farewell.h"
 #include "office/guide.h"
@@ -236,5 +237,6 @@ private:
     office::SettingsSheet settings_{screens_.frmSettings, sound_};
     office::Farewell farewell_{state_, journal_, screens_.frmFarewell, sound_, format_};
 
+    std::string stamp_;  // of the game that has just ended, for the hall
     std::map<std::string, std::function<void()>, std::less<>> routines_;
 };

@@ -47,12 +47,19 @@ void ChronicleSheet::MonthClosed(const std::vector<core::Note>& notes)
     rows_.push_back(RowOf(state_, notes));
 }
 
-void ChronicleSheet::Keep(std::string_view savedGame)
+void ChronicleSheet::Keep(std::string_view savedGame, const std::vector<core::Note>& sinceThen)
 {
+    persist::Chronicle rows = rows_;
+    if (!sinceThen.empty() && rows.empty()) {
+        rows.push_back(RowOf(state_, {}));
+    }
+    if (!sinceThen.empty()) {
+        rows.back().notes.insert(rows.back().notes.end(), sinceThen.begin(), sinceThen.end());
+    }
     const std::string file = persist::ChronicleFile(savedGame);
     const files::Result<files::FolderLock> lock = files_.Lock(file);
     const files::Failure failure =
-        lock ? files_.Replace(*lock, file, persist::PrintChronicle(rows_)) : lock.Error();
+        lock ? files_.Replace(*lock, file, persist::PrintChronicle(rows)) : lock.Error();
     trouble_ = failure ? failure->Message() : std::string();
 }
 

@@ -2,7 +2,7 @@
 //
 //     chronicle.MonthClosed(notes);
 //     chronicle.Open();                       // from the options
-//     chronicle.Keep("Save/Save1");           // in Save/Save1.chronicle
+//     chronicle.Keep("Save/Save1", notes);    // in Save/Save1.chronicle, with what happened since the last row
 //     chronicle.Take("Save/Save1");           // begins anew where there is none, or one of another game
 #pragma once
 
@@ -30,7 +30,9 @@ public:
     const persist::Chronicle& Rows() const { return rows_; }
 
     void Open();
-    void Keep(std::string_view savedGame);
+    // What happened since the last month was closed is lost by loading, but not by the chronicle: it is kept as that
+    // month's, and before the first one is over as the first's.
+    void Keep(std::string_view savedGame, const std::vector<core::Note>& sinceThen = {});
     void Take(std::string_view savedGame);
 
 private:

@@ -26,7 +26,7 @@ void HallScreen::TopTen()
     const persist::HallReport report = hall_.Enter(entry, state_.Dead == 1);
     const std::string points = persist::ShownScore(static_cast<double>(persist::Score(entry)), format_);
     ShowList(report.hall);
-    ShowOwnRow(report, points);
+    ShowOwnRow(report, points, stampOf ? stampOf() : std::string());
     ShowTrouble(report.trouble);
     if (altered && report.trouble.empty()) {
         TellAltered();
@@ -65,18 +65,21 @@ void HallScreen::LayOut(int height)
 
 // His row is lit; a president whom the list passes over reads what it would have taken. The dead are placed as if they
 // had scored nothing, and that is told.
-void HallScreen::ShowOwnRow(const persist::HallReport& report, const std::string& points)
+void HallScreen::ShowOwnRow(const persist::HallReport& report, const std::string& points,
+                            const std::string& stamp)
 {
     screens::FrmTop102& hall = screens_.frmTop102;
+    const bool foot = !report.place || !stamp.empty();
+    const int height = foot ? screens::kHallShortHeight : screens::kHallRowsHeight;
+    LayOut(height);
     if (report.place) {
         const int place = static_cast<int>(*report.place);
-        hall.Shape1.SetRect(screens::HallRow(place, screens::kHallRowsHeight));
+        hall.Shape1.SetRect(screens::HallRow(place, height));
         for (ui::Control* tab :
              {static_cast<ui::Control*>(&hall.Shape2), static_cast<ui::Control*>(&hall.Label4)}) {
-            tab->SetRect(screens::HallTab(place, screens::kHallRowsHeight));
+            tab->SetRect(screens::HallTab(place, height));
         }
     } else {
-        LayOut(screens::kHallShortHeight);
         const std::string tenth =
             persist::ShownScore(static_cast<double>(persist::Score(report.hall.back())), format_);
         hall.Label5.SetText("You: " + points + " points" +
@@ -84,6 +87,8 @@ void HallScreen::ShowOwnRow(const persist::HallReport& report, const std::string
                             ". Tenth place begins at " + tenth + ".");
     }
     ShowOwn(report.place.has_value(), !report.place);
+    hall.lblStamp.SetText(stamp);
+    hall.lblStamp.SetVisible(!stamp.empty());
 }
 
 void HallScreen::ShowOwn(bool row, bool foot)
@@ -93,6 +98,7 @@ void HallScreen::ShowOwn(bool row, bool foot)
     hall.Shape2.SetVisible(row);
     hall.Label4.SetVisible(row);
     hall.Label5.SetVisible(foot);
+    hall.lblStamp.SetVisible(false);
 }
 
 void HallScreen::ShowList(const persist::HallList& list)

@@ -33,6 +33,9 @@ public:
     // Once the list is shown at a game's end: his place from 0 (-1: none) and his points as they are shown.
     std::function<void(int place, const std::string& points)> onEntered;
 
+    // What the foot says of the president who has just come, beside his points; empty for nothing.
+    std::function<std::string()> stampOf;
+
     // The list as it is.
     void See();
     // Closes everything of the finished game and shows the title. While the list is only being looked at it
@@ -43,7 +46,7 @@ private:
     void ShowList(const persist::HallList& list);
     void LayOut(int height);
     void ShowOwn(bool row, bool foot);
-    void ShowOwnRow(const persist::HallReport& report, const std::string& points);
+    void ShowOwnRow(const persist::HallReport& report, const std::string& points, const std::string& stamp);
     void TellAltered();
     void ShowTrouble(const std::string& trouble);
 

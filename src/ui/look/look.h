@@ -266,6 +266,8 @@ inline constexpr TextStyle kHallYou{
     .face = Face::Heading, .align = Align::Center, .sizes = {{{15, 15}}}, .fore = kBandText, .wrap = true};
 inline constexpr TextStyle kHallFoot{
     .face = Face::CaptionBold, .sizes = {{{19, 24}, {17, 22}, {15, 19}}}, .fore = kBandText};
+inline constexpr TextStyle kHallStamp{
+    .face = Face::CaptionBold, .align = Align::Center, .sizes = {{{16, 20}, {15, 19}, {13, 16}}}, .fore = kBandText};
 inline constexpr TextStyle kShape{};  // a shape carries no text
 
 }  // namespace look

@@ -105,6 +105,9 @@ struct FrmTop102 : ui::Form {
     // Who is not among the ten reads why.
     ui::Label Label5{*this, "Label5", {68, 553, 700, 32}, "", look::kHallFoot,
         {.visible = false, .back = look::kInk, .mark = ui::Mark::Down}};
+    // The challenges that he has met, beside it.
+    ui::Label lblStamp{*this, "lblStamp", {452, 556, 326, 26}, "", look::kHallStamp,
+        {.visible = false, .back = look::kStampRed}};
 };
 
 }  // namespace screens

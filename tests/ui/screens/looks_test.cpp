@@ -27,6 +27,8 @@ protected:
 const std::map<std::pair<std::string, std::string>, const char*> kShared{
     {{"frmTop102.Label6", "frmTop102.Label3"}, "a trouble is pasted over the title"},
     {{"frmTop102.Label1(9)", "frmTop102.Label5"}, "the rows move up when the foot speaks"},
+    {{"frmTop102.Label1(9)", "frmTop102.lblStamp"}, "the same"},
+    {{"frmTop102.Label5", "frmTop102.lblStamp"}, "what a president with few points reads is short"},
     {{"frmStrip.Label1", "frmStrip.lblMonth"},
      "a value stands close under its caption: the lines meet, the ink does not"},
     {{"frmStrip.Label2", "frmStrip.lblMoney"}, "the same"},
