@@ -151,9 +151,9 @@ constexpr FarewellPage kPages[] = {
      {"Still unpacked", "President {name} was stopped with the boxes he had come with, most of them "
                         "unopened. The firing squad had "
                         "to be told twice who he was, and then shown a stamp."},
-     {"To our readers",
-      "Medals, stamps and schoolbooks with the President’s likeness may be exchanged until Friday. Who has "
-      "ordered them for life will be asked whose."},
+     {"To our readers", "Medals, stamps and schoolbooks with the President’s likeness may be exchanged while "
+                        "they last. Who has "
+                        "ordered them for life will be asked whose."},
      "Left before the cake was cut"},
     {End::Executed,
      Rich,
@@ -181,7 +181,7 @@ constexpr FarewellPage kPages[] = {
       "asked who had won. He was shown, without delay."},
      {"A word from the editor", "This newspaper has always stood with the people. Readers who remember "
                                 "otherwise will hand in their old "
-                                "copies by Friday."},
+                                "copies today."},
      "Lost a war, and the basement"},
     {End::Basement,
      WithoutArmy,
@@ -239,7 +239,7 @@ constexpr FarewellPage kPages[] = {
      Short,
      "OH DEAR!",
      "President finds the cellar\nbefore the ballroom",
-     "The tour of the Palace was to have been on Sunday",
+     "The tour of the Palace was to have been tomorrow",
      kCellar,
      {"New to the house",
       "In {term} President {name} had not learned where the back door was. The people had built it, and did. "
@@ -287,8 +287,8 @@ constexpr FarewellPage kPages[] = {
                       "{term} nobody had put "
                       "it to him so directly. The visitor has sailed, and has left no picture."},
      {"From the harbour",
-      "A white ship has been lying in the roads since Monday, to study the birds. It sent its condolences on "
-      "Tuesday morning. Mr.President was shot on Tuesday evening."},
+      "A white ship has been lying in the roads for a week, to study the birds. It sent its condolences at "
+      "noon. Mr.President was shot at six."},
      "Met American interests"},
     {End::Assassinated,
      ByArmy,
@@ -309,9 +309,9 @@ constexpr FarewellPage kPages[] = {
      "Police protect President\nto the last",
      "They were nearest",
      kBalcony,
-     {"Close protection", "For {term} eleven officers had followed President {name} wherever he went. On "
-                          "Tuesday they arrived before "
-                          "him. The report is complete and without mistakes, and was typed on Monday."},
+     {"Close protection", "For {term} eleven officers had followed President {name} wherever he went. "
+                          "Yesterday they arrived before "
+                          "him. The report is complete and without mistakes, and bears last week’s date."},
      {"The culprit", "He has been arrested and has confessed, and has asked to what. The police thank the "
                      "public for its help. "
                      "They will collect it in the course of the week."},

@@ -188,7 +188,7 @@ STORIES = {
         title='Victory expected before lunch',
         body='The President declared war at dawn, right after breakfast and shortly before the reasons. The '
              'nation received the news with joy, as instructed. Generals promise a victory by the weekend; '
-             'maps of the enemy have been ordered and will arrive on Monday. Soldiers will be issued boots in '
+             'maps of the enemy have been ordered and will arrive after it. Soldiers will be issued boots in '
              'order of rank. Citizens who wish to volunteer have already been listed.',
         second_title='What you can do',
         second_body='Pots, pans and eldest sons are to be handed in at the nearest police station. Cheering '

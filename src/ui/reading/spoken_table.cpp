@@ -270,7 +270,7 @@ constexpr Spoken kTable[] = {
     {"images/newswar.bmp", "We are invading them in self-defence, explains Mister President. The picture: soldiers march off in a row, a tank under our flag, aeroplanes above, and all of them in step. "
         "Our boys march off in high spirits. The band was ordered to look away.",
         "Victory expected before lunch. The President declared war at dawn, right after breakfast and shortly before the reasons. The nation received the news with joy, as instructed. "
-        "Generals promise a victory by the weekend; maps of the enemy have been ordered and will arrive on Monday. Soldiers will be issued boots in order of rank. Citizens who wish to "
+        "Generals promise a victory by the weekend; maps of the enemy have been ordered and will arrive after it. Soldiers will be issued boots in order of rank. Citizens who wish to "
         "volunteer have already been listed."},
 };
 
