@@ -87,8 +87,7 @@ void AdjustChiefs(GameState& state)
 
 files::Result<std::vector<std::string>> ReadNames(const files::ProgramFolder& folder)
 {
-    const files::Result<std::vector<files::Item>> items =
-        folder.Items(kNamesFile);
+    const files::Result<std::vector<files::Item>> items = folder.Items(kNamesFile);
     if (!items) {
         return items.Error();
     }

@@ -9,7 +9,7 @@ from cards import GROUPS, Problem
 
 # Largest change of one number. Revolts begin at a strength of 12 to 30 and an opposition of 65, so more than this
 # would decide a game with one click.
-BOUNDS = {"strength": 10, "opposition": 15, "americans": 15}
+BOUNDS = {"strength": 10, "opposition": 15, "americans": 30}
 
 # words: fewest and most. chars: most, so that the text fits its place on the screen.
 ROOM = {
