@@ -4,8 +4,10 @@
 
 #include <SDL2/SDL_audio.h>
 #include <SDL2/SDL_timer.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <string>
@@ -97,16 +99,34 @@ TEST_F(AudioTest, ANewSoundCutsTheLast)
     EXPECT_EQ(heard.substr(heard.size() - 1000), std::string(1000, '\0'));
 }
 
-TEST_F(AudioTest, AMissingOrBrokenSoundIsSilent)
+// The game goes on in silence, and whoever started it reads why, once.
+TEST_F(AudioTest, AMissingOrBrokenSoundIsTold)
 {
-    folder_.Write("sound/broken.wav", "RIFF");
+    std::string slow = folder_.Read((test::Assets() / "sound/click.wav").string());
+    slow[24] = 1;  // samples a second: would be played for minutes
+    slow[25] = 0;
+    const struct {
+        const char* file;
+        std::string content, told;
+    } rows[] = {
+        {"sound/none.wav", "", "No such file"}, {"sound/empty.wav", "", "wave"},
+        {"sound/broken.wav", "RIFF", "wave"},   {"sound/slow.wav", slow, "samples a second, found 1\n"},
+        {"sound", "", "found a folder"},
+    };
     platform::Audio audio{files::ProgramFolder(folder_.Path())};
-    testing::internal::CaptureStderr();
-    for (const char* file : {"sound/none.wav", "sound/broken.wav", "sound"}) {
-        audio.Play(file);
-        audio.Update(0);
+    for (const auto& row : rows) {
+        if (std::string_view(row.told) != "No such file" && std::string_view(row.file) != "sound") {
+            folder_.Write(row.file, row.content);
+        }
+        testing::internal::CaptureStderr();
+        for (int i = 0; i < 2; ++i) {
+            audio.Play(row.file);
+            audio.Update(0);
+        }
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
+        EXPECT_THAT(told, testing::AllOf(testing::HasSubstr(row.file), testing::HasSubstr(row.told)));
     }
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(AudioTest, WithoutADeviceTheGameIsSilent)

@@ -1,61 +1,25 @@
 #include "platform/desktop/audio.h"
 
-#include "files/whole_file.h"
 #include "platform/desktop/quiet.h"
 
 #include <SDL2/SDL.h>
 
 #include <algorithm>
 #include <filesystem>
-#include <memory>
+#include <iostream>
 #include <utility>
-#include <vector>
 
 namespace platform {
 
 namespace {
 
-// As our files are, so that nothing is converted; a file of another kind is.
-constexpr SDL_AudioFormat kFormat = AUDIO_S16SYS;
-constexpr int kRate = 22050;
-constexpr int kBytesASecond = kRate * 2;
-constexpr Uint8 kChannels = 1;
+constexpr int kBytesASecond = kSampleRate * 2;
 constexpr int kDucked = SDL_MIX_MAXVOLUME / 4;
 constexpr int kWholeVolume = 100;  // percent
 constexpr Uint16 kBuffer = 512;    // samples; 23 ms
 
 constexpr std::int64_t kStaysOpen = 4000;    // ms after a sound's end
 constexpr std::int64_t kLooksAgain = 60000;  // ms after there was no device
-
-using Samples = std::vector<Uint8>;
-
-struct StreamDeleter {
-    void operator()(SDL_AudioStream* stream) const { SDL_FreeAudioStream(stream); }
-};
-
-// A wave file's samples as the device takes them; none when it cannot be read.
-Samples ReadWave(const std::filesystem::path& path)
-{
-    SDL_AudioSpec spec{};
-    Uint8* bytes = nullptr;
-    Uint32 size = 0;
-    if (!files::IsRegularFile(path) || SDL_LoadWAV(path.c_str(), &spec, &bytes, &size) == nullptr) {
-        return {};
-    }
-    const std::unique_ptr<Uint8, decltype(&SDL_FreeWAV)> wave(bytes, SDL_FreeWAV);
-    if (spec.format == kFormat && spec.channels == kChannels && spec.freq == kRate) {
-        return {bytes, bytes + size};
-    }
-    const std::unique_ptr<SDL_AudioStream, StreamDeleter> stream(
-        SDL_NewAudioStream(spec.format, spec.channels, spec.freq, kFormat, kChannels, kRate));
-    if (!stream || SDL_AudioStreamPut(stream.get(), bytes, static_cast<int>(size)) != 0 ||
-        SDL_AudioStreamFlush(stream.get()) != 0) {
-        return {};
-    }
-    Samples samples(static_cast<std::size_t>(SDL_AudioStreamAvailable(stream.get())));
-    SDL_AudioStreamGet(stream.get(), samples.data(), static_cast<int>(samples.size()));
-    return samples;
-}
 
 }  // namespace
 
@@ -72,9 +36,9 @@ bool Audio::OpenDevice(std::int64_t now)
     const Quiet quiet;
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
         SDL_AudioSpec wanted{};
-        wanted.freq = kRate;
-        wanted.format = kFormat;
-        wanted.channels = kChannels;
+        wanted.freq = kSampleRate;
+        wanted.format = kSampleFormat;
+        wanted.channels = kSampleChannels;
         wanted.samples = kBuffer;
         device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
         if (Open()) {
@@ -100,7 +64,7 @@ void Audio::Sound(std::size_t from)
 {
     SDL_ClearQueuedAudio(device_);
     Samples heard(sounds_.size() - from);
-    SDL_MixAudioFormat(heard.data(), sounds_.data() + from, kFormat, static_cast<Uint32>(heard.size()),
+    SDL_MixAudioFormat(heard.data(), sounds_.data() + from, kSampleFormat, static_cast<Uint32>(heard.size()),
                        (ducked_ ? kDucked : SDL_MIX_MAXVOLUME) * volume_ / kWholeVolume);
     SDL_QueueAudio(device_, heard.data(), static_cast<Uint32>(heard.size()));
 }
@@ -128,6 +92,17 @@ void Audio::SoundRest()
     }
 }
 
+// The game goes on without a sound that cannot be read.
+Samples Audio::Read(const std::string& file)
+{
+    const std::filesystem::path path = folder_.Path(file);
+    std::optional<Samples> samples = ReadWave(path);
+    if (!samples && told_.insert(file).second) {
+        std::cerr << "quenvale: " << path.string() << ": " << SDL_GetError() << '\n';
+    }
+    return std::move(samples).value_or(Samples());
+}
+
 void Audio::Update(std::int64_t now)
 {
     if (!wanted_.empty()) {
@@ -135,7 +110,7 @@ void Audio::Update(std::int64_t now)
         if (volume_ == 0 || !OpenDevice(now)) {
             return;
         }
-        sounds_ = ReadWave(folder_.Path(file));
+        sounds_ = Read(file);
         Sound(0);
         quietAt_ = now + static_cast<std::int64_t>(sounds_.size()) * 1000 / kBytesASecond + kStaysOpen;
     } else if (Open() && now >= quietAt_) {

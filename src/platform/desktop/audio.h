@@ -1,4 +1,5 @@
-// The sounds, one at a time: a new one cuts the last. No device means a silent game, never an error.
+// The sounds, one at a time: a new one cuts the last. No device means a silent game, never an error. A file that cannot be
+// read is told once on standard error.
 //
 //     audio.Play("sound/click.wav");      // only remembered
 //     audio.Update(now);                  // after the frame: opens the device if need be and starts it
@@ -8,15 +9,16 @@
 #pragma once
 
 #include "files/program_folder.h"
+#include "platform/desktop/wave_file.h"
 
 #include <SDL2/SDL_audio.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace platform {
 
@@ -42,11 +44,13 @@ private:
     void CloseDevice();
     void Sound(std::size_t from);
     void SoundRest();
+    Samples Read(const std::string& file);
 
     files::ProgramFolder folder_;
     std::string wanted_;
-    std::vector<Uint8> sounds_;  // the last one, as the device takes it
-    int volume_ = 100;           // percent
+    Samples sounds_;                // the last one
+    std::set<std::string> told_{};  // the files that cannot be read
+    int volume_ = 100;              // percent
     bool ducked_ = false;
     SDL_AudioDeviceID device_ = 0;  // 0: closed
     std::int64_t quietAt_ = 0;      // when the device may be closed
