@@ -9,7 +9,7 @@
 #     quenvale_test(core_test SOURCES chance_test.cpp LINKS quenvale_core)  GoogleTest, one ctest entry a TEST
 #     quenvale_script_test(e2e_title COMMAND title.py --fast)               a script as a test
 #     quenvale_bench(month_bench SOURCES month.cpp LINKS quenvale_app)      Google Benchmark, not a test
-#     quenvale_fuzzer(cards_fuzz SOURCES cards.cpp LINKS quenvale_files CORPUS cards)
+#     quenvale_fuzzer(records_fuzz SOURCES records.cpp LINKS quenvale_files READERS cards)
 #
 # Includes start at src/: #include "ui/toolkit/form.h". In tests/ and tools/ they also start there.
 # LINKS names every folder of ours, and every library from outside, from which the files include something:
@@ -158,21 +158,24 @@ function(quenvale_bench target)
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bench")
 endfunction()
 
-# A fuzzer, which defines LLVMFuzzerTestOneInput. The preset fuzz makes it a libFuzzer program in build/fuzz/fuzz/;
-# the others make it a test that tries each file of the folder CORPUS once.
+# A fuzzer, which defines LLVMFuzzerInitialize and LLVMFuzzerTestOneInput. The preset fuzz makes it a libFuzzer
+# program in build/fuzz/fuzz/; the others make it a test that tries each file of its folders once. fuzz/run knows
+# which.
 function(quenvale_fuzzer target)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "CORPUS" "SOURCES;LINKS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;READERS")
     if(NOT QUENVALE_FUZZ)
-        list(APPEND arg_SOURCES "${PROJECT_SOURCE_DIR}/fuzz/replay.cpp")
-        add_test(NAME ${target} COMMAND ${target} "${CMAKE_CURRENT_SOURCE_DIR}/${arg_CORPUS}")
-        set_tests_properties(${target} PROPERTIES TIMEOUT 120)
+        list(APPEND arg_SOURCES replay.cpp)
     endif()
     add_executable(${target})
     quenvale_set_up(${target} PRIVATE quenvale_headers SOURCES ${arg_SOURCES} LINKS ${arg_LINKS})
     set_target_properties(${target} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/fuzz")
     if(QUENVALE_FUZZ)
         target_link_options(${target} PRIVATE -fsanitize=fuzzer)
+        return()
     endif()
+    foreach(reader IN LISTS arg_READERS)
+        quenvale_script_test(fuzz_${reader} COMMAND run --replay ${reader})
+    endforeach()
 endfunction()
 
 # Tells tools/lint/includes who links whom: one line a target, "name folder link;link".

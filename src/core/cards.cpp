@@ -31,18 +31,15 @@ std::string NameOf(std::size_t figure)
            std::string(kGroupNames[figure % kGroups]);
 }
 
-files::Result<Items> ReadItemsOf(const files::ProgramFolder& folder, std::string_view file, std::size_t count)
+std::optional<files::FileError> WrongCount(std::string_view file, const Items& items, std::size_t count)
 {
-    files::Result<Items> items = folder.Items(file);
-    if (items && items->size() != count) {
-        const int line = items->size() > count ? (*items)[count].line
-                         : items->empty()      ? 0
-                                               : items->back().line;
-        return files::FileError{std::string(file), line,
-                                "expected " + std::to_string(count) + " items, found " +
-                                    std::to_string(items->size())};
+    if (items.size() == count) {
+        return std::nullopt;
     }
-    return items;
+    const int line = items.size() > count ? items[count].line : items.empty() ? 0 : items.back().line;
+    return files::FileError{std::string(file), line,
+                            "expected " + std::to_string(count) + " items, found " +
+                                std::to_string(items.size())};
 }
 
 // Takes the nineteen numbers that begin at item first; the error names the item.
@@ -87,32 +84,42 @@ void Apply(const Effects& effects, GameState& state)
 
 files::Result<Card> ReadCard(const files::ProgramFolder& folder, std::string_view file)
 {
-    const files::Result<Items> items = ReadItemsOf(folder, file, kCardItems);
-    if (!items) {
-        return items.Error();
+    const files::Result<Items> items = folder.Items(file);
+    return items ? ParseCard(*items, file) : items.Error();
+}
+
+files::Result<Card> ParseCard(const Items& items, std::string_view file)
+{
+    if (const auto error = WrongCount(file, items, kCardItems)) {
+        return *error;
     }
     Card card;
-    if (const auto error = TakeEffects(file, *items, 0, card.effects)) {
+    if (const auto error = TakeEffects(file, items, 0, card.effects)) {
         return *error;
     }
     for (std::size_t i = 0; i < kFigures; ++i) {
-        card.figures[i] = (*items)[i].text;
+        card.figures[i] = items[i].text;
     }
-    card.title = (*items)[kFigures].text;
-    card.sideEffects = (*items)[kFigures + 1].text;
-    card.result = (*items)[kFigures + 2].text;
+    card.title = items[kFigures].text;
+    card.sideEffects = items[kFigures + 1].text;
+    card.result = items[kFigures + 2].text;
     return card;
 }
 
 files::Result<Offer> ReadOffer(const files::ProgramFolder& folder, std::string_view file)
 {
-    const files::Result<Items> items = ReadItemsOf(folder, file, kOfferItems);
-    if (!items) {
-        return items.Error();
+    const files::Result<Items> items = folder.Items(file);
+    return items ? ParseOffer(*items, file) : items.Error();
+}
+
+files::Result<Offer> ParseOffer(const Items& items, std::string_view file)
+{
+    if (const auto error = WrongCount(file, items, kOfferItems)) {
+        return *error;
     }
     Offer offer;
-    offer.text = items->front().text;
-    if (const auto error = TakeEffects(file, *items, 1, offer.effects)) {
+    offer.text = items.front().text;
+    if (const auto error = TakeEffects(file, items, 1, offer.effects)) {
         return *error;
     }
     return offer;

@@ -9,11 +9,13 @@
 #include "core/game_state.h"
 #include "files/program_folder.h"
 #include "files/result.h"
+#include "files/text_records.h"
 
 #include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace core {
 
@@ -38,6 +40,7 @@ struct Card {
     std::string result;  // for the banner, once it is done
 };
 files::Result<Card> ReadCard(const files::ProgramFolder& folder, std::string_view file);
+files::Result<Card> ParseCard(const std::vector<files::Item>& items, std::string_view file);
 
 // An ally's offer (Actions/R1 .. R7), 20 items: the text and the same nineteen numbers.
 struct Offer {
@@ -45,5 +48,6 @@ struct Offer {
     Effects effects;
 };
 files::Result<Offer> ReadOffer(const files::ProgramFolder& folder, std::string_view file);
+files::Result<Offer> ParseOffer(const std::vector<files::Item>& items, std::string_view file);
 
 }  // namespace core

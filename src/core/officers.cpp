@@ -88,11 +88,13 @@ void AdjustChiefs(GameState& state)
 files::Result<std::vector<std::string>> ReadNames(const files::ProgramFolder& folder)
 {
     const files::Result<std::vector<files::Item>> items = folder.Items(kNamesFile);
-    if (!items) {
-        return items.Error();
-    }
+    return items ? ParseNames(*items) : items.Error();
+}
+
+files::Result<std::vector<std::string>> ParseNames(const std::vector<files::Item>& items)
+{
     std::vector<std::string> names;
-    for (const files::Item& item : *items) {
+    for (const files::Item& item : items) {
         if (item.text.empty()) {
             return files::FileError{std::string(kNamesFile), item.line,
                                     "expected a surname, found an empty item"};
@@ -100,7 +102,7 @@ files::Result<std::vector<std::string>> ReadNames(const files::ProgramFolder& fo
         names.push_back(item.text);
     }
     if (names.size() < kNamesNeeded) {
-        const int last = items->empty() ? 0 : items->back().line;
+        const int last = items.empty() ? 0 : items.back().line;
         return files::FileError{std::string(kNamesFile), last,
                                 "expected at least " + std::to_string(kNamesNeeded) + " surnames, found " +
                                     std::to_string(names.size())};

@@ -6,6 +6,7 @@
 #include "core/game_state.h"
 #include "files/program_folder.h"
 #include "files/result.h"
+#include "files/text_records.h"
 
 #include <string>
 #include <vector>
@@ -17,6 +18,7 @@ inline constexpr std::size_t kNamesNeeded = 121;
 
 // The surnames of data/names, checked: at least kNamesNeeded, none of them empty.
 files::Result<std::vector<std::string>> ReadNames(const files::ProgramFolder& folder);
+files::Result<std::vector<std::string>> ParseNames(const std::vector<files::Item>& items);
 
 // Names by number, for a country whose list of names was lost: "NUMBER 1" and so on.
 std::vector<std::string> NamesByNumber();
