@@ -28,7 +28,7 @@ int Found(const monkey::Outcome& outcome, int seed)
 {
     std::printf("seed %d, event %zu: %s\n", seed, outcome.lines.size(), outcome.broken.c_str());
     std::fflush(stdout);
-    for (const std::string& line : monkey::Shorten(outcome)) {
+    for (const std::string& line : monkey::Shorten(outcome, monkey::RepeatSilently)) {
         std::printf("%s\n", line.c_str());
     }
     return 1;

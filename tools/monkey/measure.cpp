@@ -154,7 +154,7 @@ int TryLimits(int steps)
         return broken;
     });
     if (!outcome.broken.empty()) {
-        for (const std::string& line : Shorten(outcome)) {
+        for (const std::string& line : Shorten(outcome, RepeatSilently)) {
             std::printf("%s\n", line.c_str());
         }
         return Report(outcome.broken);

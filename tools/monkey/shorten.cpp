@@ -123,7 +123,7 @@ Outcome Repeat(const std::vector<std::string>& lines, bool silent)
         silent);
 }
 
-std::vector<std::string> Shorten(const Outcome& outcome)
+std::vector<std::string> Shorten(const Outcome& outcome, const Again& again)
 {
     std::vector<std::string> lines = outcome.lines;
     int tries = 0;
@@ -132,8 +132,8 @@ std::vector<std::string> Shorten(const Outcome& outcome)
             std::vector<std::string> fewer = lines;
             const auto first = fewer.begin() + static_cast<std::ptrdiff_t>(at);
             fewer.erase(first, first + static_cast<std::ptrdiff_t>(part));
-            if (const Outcome again = Repeat(fewer, true); Promise(again.broken) == Promise(outcome.broken)) {
-                lines = again.lines;
+            if (const Outcome found = again(fewer); Promise(found.broken) == Promise(outcome.broken)) {
+                lines = found.lines;
             } else {
                 at += part;
             }

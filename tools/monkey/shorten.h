@@ -18,10 +18,15 @@ struct Outcome {
 using Tell = std::function<void(std::string_view line)>;
 Outcome PlayInChild(const std::function<std::optional<std::string>(const Tell&)>& play, bool silent = false);
 
-// The lines again, in a fresh folder.
+// The lines again, in the console and a fresh folder.
 Outcome Repeat(const std::vector<std::string>& lines, bool silent = false);
+inline Outcome RepeatSilently(const std::vector<std::string>& lines)
+{
+    return Repeat(lines, true);
+}
 
 // Fewer lines that break the same promise: parts are left out, large ones first, as long as it stays broken.
-std::vector<std::string> Shorten(const Outcome& outcome);
+using Again = std::function<Outcome(const std::vector<std::string>& lines)>;
+std::vector<std::string> Shorten(const Outcome& outcome, const Again& again);
 
 }  // namespace monkey

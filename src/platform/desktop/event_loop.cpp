@@ -100,6 +100,9 @@ void EventLoop::Run()
             audio_.Duck(narration_->Speaking());
         }
         audio_.Update(Now());  // behind the frame, which the player is waiting for
+        if (host_.onIdle) {
+            host_.onIdle();
+        }
         SDL_Event event{};
         const bool held = desktop_.NextDue() && Speaking();
         const bool happened = SDL_WaitEventTimeout(&event, Patience()) == 1;

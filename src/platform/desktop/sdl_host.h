@@ -28,6 +28,9 @@ public:
     // Where the window was left the last time, told before Run; where it is left now, after it.
     ui::Rect place{};  // pixels of the desktop; no width: unknown
 
+    // Called whenever all that happened has been handled and shown, before the next wait: for who plays by himself.
+    std::function<void()> onIdle;
+
     bool Ended() const { return ended_; }
     // Null for both when the window is gone.
     void Attach(Window* window, Audio* audio, const files::ProgramFolder& folder);
