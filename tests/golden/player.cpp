@@ -56,6 +56,19 @@ void Player::GovernAMonth()
     EXPECT_TRUE(Fallen() || game_.Form("frmMain").Enabled()) << "the month does not end";
 }
 
+void Player::Press(const std::string& control)
+{
+    game_.ClickRefused(control);
+    Passed();
+}
+
+void Player::Passed() const
+{
+    if (onPress) {
+        onPress();
+    }
+}
+
 void Player::SetTaxes()
 {
     Press("frmMain.Label5(1)");
@@ -148,6 +161,7 @@ void Player::LetTimersFire()
     constexpr std::int64_t kStep = 500;  // milliseconds
     for (int i = 0; i < kMostAnswers && armed(); ++i) {
         game_.Wait(kStep);
+        Passed();
     }
 }
 

@@ -11,6 +11,8 @@
 #include "support/test_game.h"
 
 #include <cstdint>
+#include <functional>
+#include <string>
 
 namespace test {
 
@@ -19,12 +21,14 @@ public:
     Player(TestGame& game, std::uint64_t seed) : game_(game) { own_.Seed(seed); }
 
     void GovernAMonth();
+    std::function<void()> onPress;  // after each press, and each half second of a pause
     bool Fallen() { return game_.Shown("frmTop102"); }
 
 private:
     int Pick(int count) { return static_cast<int>(own_.Draw(count, 0)); }
     bool Often(int ofTen) { return Pick(10) < ofTen; }
-    void Press(const std::string& control) { game_.ClickRefused(control); }
+    void Press(const std::string& control);
+    void Passed() const;
 
     void SetTaxes();
     void Bank();

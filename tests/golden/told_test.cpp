@@ -5,6 +5,7 @@
 // `tools/golden --renew` writes told.txt anew; the difference is for the eyes.
 #include "golden/frozen_cards.h"
 #include "golden/player.h"
+#include "golden/sum.h"
 #include "office/layers.h"
 #include "ui/reading/narrator.h"
 
@@ -42,51 +43,46 @@ constexpr const char* kTour[] = {"frmMain.Label5(0)", "frmMain.Label5(1)",      
                                  "frmMain.Label5(5)"};
 
 // What is to be seen, in one number: every control of every screen, and the pictures behind them.
-class Sum {
+class Sight : public test::Sum {
 public:
+    using Sum::Add;
     void Add(const ui::Form& form)
     {
         Add(form.Name());
         Add(form.Place());
-        Add(std::to_string(Number(form.Back())) + (form.Enabled() ? "+" : "-") +
-            std::to_string(form.Shade()));
+        Add(form.Back());
+        Add(form.Enabled());
+        Add(form.Shade());
         for (const ui::Control* control : form.Controls()) {
             const ui::Control::State& now = control->Now();
             Add(now.rect);
             Add(now.text);
             Add(now.picture);
-            std::ostringstream rest;
-            rest << Number(now.fore) << ' ' << Number(now.back) << ' ' << now.opaque << now.visible
-                 << now.enabled << now.chosen << now.folded << static_cast<int>(now.mark) << ' ' << now.twips;
-            Add(rest.str());
+            Add(now.fore);
+            Add(now.back);
+            for (const bool flag : {now.opaque, now.visible, now.enabled, now.chosen, now.folded}) {
+                Add(flag);
+            }
+            Add(static_cast<int>(now.mark));
+            Add(static_cast<int>(now.twips));
         }
         for (const ui::ScenePiece& piece : form.scene ? form.scene() : ui::Scene()) {
             Add(piece.picture);
             Add(piece.place);
         }
     }
-    void Add(std::string_view text)
-    {
-        for (const char c : text) {
-            sum_ = (sum_ ^ static_cast<unsigned char>(c)) * 16777619U;
-        }
-    }
-    std::uint32_t Take() { return std::exchange(sum_, kEmpty); }
 
 private:
-    static int Number(const ui::Color& color) { return color.red << 16 | color.green << 8 | color.blue; }
+    void Add(const ui::Color& color) { Add(color.red << 16 | color.green << 8 | color.blue); }
     void Add(const ui::Rect& rect)
     {
-        std::ostringstream text;
-        text << rect.left << ' ' << rect.top << ' ' << rect.width << ' ' << rect.height;
-        Add(text.str());
+        for (const int side : {rect.left, rect.top, rect.width, rect.height}) {
+            Add(side);
+        }
     }
-
-    static constexpr std::uint32_t kEmpty = 2166136261U;
-    std::uint32_t sum_ = kEmpty;
 };
 
-// Writes down what is said, and sums up what can be seen and heard each time that something is.
+// Writes down what is said, and sums up what can be seen, heard and noted each time that something happens.
 class Scribe : public reading::Voice {
 public:
     explicit Scribe(TestGame& game) : game_(game) {}
@@ -107,17 +103,21 @@ public:
         for (const std::string& sound : game_.TakeSounds()) {
             sum.Add(sound);
         }
+        for (const core::Note& note : game_.game.GetJournal().Notes()) {
+            sum.Add(static_cast<int>(note.kind) * 100 + static_cast<int>(note.who));
+            sum.Add(note.amount);
+        }
     }
 
     Lines lines;
-    Sum sum;
+    Sight sum;
 
 private:
     TestGame& game_;
 };
 
 // The screens from the front to the back, the pieces of the view through the window, and the sum of the month.
-std::string Sight(TestGame& game, Scribe& scribe)
+std::string Seen(TestGame& game, Scribe& scribe)
 {
     scribe.Look();
     std::ostringstream line;
@@ -151,6 +151,7 @@ Lines TellOne(int seed, core::Level level, int helpedEvery)
     game.game.GetChance().Seed(static_cast<std::uint64_t>(seed));
     game.StartGame(level);
     Player player(game, static_cast<std::uint64_t>(1000 * seed + level));
+    player.onPress = [&scribe] { scribe.Look(); };
     for (int month = 1; month <= kMonths && !player.Fallen(); ++month) {
         scribe.lines.push_back("== " + std::to_string(seed) + ", month " + std::to_string(month));
         if (month % helpedEvery == 0) {
@@ -158,13 +159,13 @@ Lines TellOne(int seed, core::Level level, int helpedEvery)
         }
         player.GovernAMonth();
         game.Press(ui::Key::F5);  // how the country stands
-        scribe.lines.push_back(Sight(game, scribe));
+        scribe.lines.push_back(Seen(game, scribe));
         if (month % kTourEvery == 0) {
             Tour(game);
         }
     }
     game.Press(ui::Key::F4);
-    scribe.lines.push_back(Sight(game, scribe));
+    scribe.lines.push_back(Seen(game, scribe));
     return scribe.lines;
 }
 

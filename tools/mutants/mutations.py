@@ -131,11 +131,16 @@ SHOWN = re.compile(r'(?P<what>[\w.:>\[\]()-]*?(\.|->)?(Set[A-Z]\w*|Show|ShowModa
 
 
 def independent(one, other):
-    """Whether the order of two statements says nothing: assignments that do not read each other's target, and calls
-    that only set, show, tell or announce something, on different things."""
-    if SHOWN.match(one) and SHOWN.match(other):
-        return SHOWN.match(one).group('what') != SHOWN.match(other).group('what')
+    """Whether the order of two statements says nothing: assignments that do not read each other's target, calls that
+    only set, show, tell or announce something, on different things, and one of each when no call hides what is read."""
+    shown, other_shown = SHOWN.match(one), SHOWN.match(other)
+    if shown and other_shown:
+        return shown.group('what') != other_shown.group('what')
+    if other_shown:
+        return independent(other, one)
     target, other_target = one.split(' ')[0], other.split(' ')[0]
+    if shown:
+        return one.count('(') == 1 and '(' not in other and other_target not in one
     return '(' not in one + other and target not in other and other_target not in one
 
 
