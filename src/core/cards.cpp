@@ -2,8 +2,8 @@
 
 #include "core/names.h"
 #include "core/numbers.h"
-#include "core/short_text.h"
 #include "files/text_records.h"
+#include "text/short_text.h"
 
 #include <cmath>
 #include <limits>
@@ -53,8 +53,8 @@ std::optional<files::FileError> TakeEffects(std::string_view file, std::span<con
         if (!number || std::abs(*number) > kMost) {
             return files::FileError{std::string(file), item.line,
                                     "item " + std::to_string(first + i + 1) + ", " + NameOf(i) +
-                                        ": expected a number, found \"" + Shortened(item.text, kQuoted) +
-                                        "\""};
+                                        ": expected a number, found \"" +
+                                        text::Shortened(item.text, kQuoted) + "\""};
         }
         double& target = i < kGroups       ? effects.strength[i]
                          : i < 2 * kGroups ? effects.opposition[i - kGroups]

@@ -1,7 +1,7 @@
 #include "office/farewell_rules.h"
 
 #include "core/numbers.h"
-#include "core/short_text.h"
+#include "text/short_text.h"
 
 #include <algorithm>
 #include <array>
@@ -50,7 +50,7 @@ Obituary ObituaryOf(const core::GameState& state, const std::vector<core::Note>&
     Obituary of{.end = EndOf(state, notes),
                 .byHelicopter = state.ActionDone[kHelicopter] == 1,
                 .ownArmy = state.Population[core::PersonalArmy] > 0,
-                .name = core::Shortened(state.PlayerName, kNameShown),
+                .name = text::Shortened(state.PlayerName, kNameShown),
                 .months = state.MonthsInPower,
                 .fortune = state.SwissBank};
     if (const core::Note* flight = LastOf(notes, core::Kind::Flight)) {

@@ -1,7 +1,7 @@
 #include "persist/hall_of_fame.h"
 
-#include "core/short_text.h"
 #include "persist/record_errors.h"
+#include "text/short_text.h"
 
 #include <algorithm>
 
@@ -117,7 +117,7 @@ std::optional<std::size_t> Enter(HallList& hall, const HallEntry& entry, bool de
 
 std::string Sentence(const HallEntry& entry, const core::NumberFormat& format)
 {
-    return "President " + core::Shortened(entry.name, kNameShown) + " made it alive at " +
+    return "President " + text::Shortened(entry.name, kNameShown) + " made it alive at " +
            std::string(kLevels[core::LevelIndex(entry.level)].word) + " level, with a score of " +
            ShownScore(static_cast<double>(Score(entry)), format) + " points. He gained a fortune of " +
            format.Amount(std::int64_t{entry.fortune}) + ", by staying in power for " +

@@ -1,6 +1,6 @@
 #include "persist/record_errors.h"
 
-#include "core/short_text.h"
+#include "text/short_text.h"
 
 namespace persist {
 
@@ -13,7 +13,7 @@ std::string Found(const files::Item& item)
     if (item.text.empty() && !item.quoted) {
         return "an empty line";
     }
-    return '"' + core::Shortened(item.text, kShown) + '"';
+    return '"' + text::Shortened(item.text, kShown) + '"';
 }
 
 }  // namespace

@@ -2,8 +2,8 @@
 
 #include "core/names.h"
 #include "core/numbers.h"
-#include "core/short_text.h"
 #include "month/banner.h"
+#include "text/short_text.h"
 
 #include <string>
 
@@ -31,7 +31,7 @@ std::string NotRead(const files::FileError& error)
 
 std::string TitleOf(const core::GameState& game)
 {
-    std::string title = core::Shortened(game.PlayerName, kNameColumns);
+    std::string title = text::Shortened(game.PlayerName, kNameColumns);
     title += title.empty() ? "Month " : ", month ";
     return title + core::Digits(game.MonthsInPower) + ", " +
            std::string(core::kLevelNames[core::LevelIndex(game.Difficulty)]);

@@ -1,9 +1,9 @@
 #include "shell/saved_games.h"
 
 #include "core/names.h"
-#include "core/short_text.h"
 #include "month/banner.h"
 #include "shell/figures.h"
+#include "text/short_text.h"
 
 #include <memory>
 #include <string>
@@ -186,7 +186,7 @@ void SavedGames::ShowAbout(screens::SlotForm& form) const
         if (note) {
             const std::string who = note->president.empty()
                                         ? std::string()
-                                        : core::Shortened(note->president, kLongestName) + ", ";
+                                        : text::Shortened(note->president, kLongestName) + ", ";
             form.lblAbout[slot].SetText(who + "month " + core::Digits(note->months) + ", " +
                                         std::string(core::kLevelNames[core::LevelIndex(note->level)]) + ". " +
                                         note->date);

@@ -8,7 +8,6 @@
 #include "core/fields.h"
 #include "core/month_rules.h"
 #include "core/officers.h"
-#include "core/short_text.h"
 #include "core/society.h"
 #include "core/start_values.h"
 #include "events/card_effects.h"
@@ -29,6 +28,7 @@
 #include "office/telling.h"
 #include "persist/hall_of_fame.h"
 #include "persist/saved_game.h"
+#include "text/short_text.h"
 #include "threats/assassination_rules.h"
 #include "threats/civil_war_rules.h"
 #include "threats/intelligence_rules.h"
@@ -159,6 +159,7 @@ struct Case {
     Chance chance;
     std::int64_t pick = 0;  // 0 .. 999: the rule's argument, if it takes one
     Sum& sum;
+    const std::vector<std::string>& names;  // of officers
 
     template <class T> void Tell(const std::optional<T>& value)
     {
@@ -288,7 +289,11 @@ void TellStrip(Case& c)
 
 void TellFarewell(Case& c)
 {
-    c.state.SwissBank = c.Of(0, 3) * 33'333'333;
+    constexpr std::int64_t kFortunes[] = {0,          999'999,    1'000'000, 19'999'999,
+                                          20'000'000, 79'999'999, 80'000'000};
+    constexpr std::int64_t kReigns[] = {1, 6, 7, 35, 36, 100};
+    c.state.SwissBank = kFortunes[c.pick % 7];
+    c.state.MonthsInPower = kReigns[c.pick / 7 % 6];
     const office::Obituary of = office::ObituaryOf(c.state, DrawNotes(c));
     c.sum.Add(of.ownArmy);
     c.sum.Add(of.byHelicopter);
@@ -353,6 +358,14 @@ struct Rule {
     void (*apply)(Case&);
 };
 const Rule kRules[] = {
+    {"start",
+     [](Case& c) {
+         c.state.Difficulty = c.Of(0, 3);
+         core::SetStartValues(c.state);
+         core::DrawNeighbours(c.state, c.chance);
+         c.state.ChiefNameSeed = c.Of(1, 109);
+         core::CreateChiefs(c.state, c.chance, c.names);
+     }},
     {"taxes", [](Case& c) { core::UpdateTaxIncome(c.state); }},
     {"expenses", [](Case& c) { core::UpdateExpTotal(c.state); }},
     {"balance",
@@ -484,7 +497,7 @@ const Rule kRules[] = {
              c.sum.Add(format.Amount(core::RoundHalfEven(value / 2)));
              c.sum.Add(core::ChangedByPercent(c.state.Money, core::Real(c.Of(-30, 30)) / 2));
          }
-         c.sum.Add(core::Shortened(c.state.PlayerName, static_cast<std::size_t>(c.Of(0, 45))));
+         c.sum.Add(text::Shortened(c.state.PlayerName, static_cast<std::size_t>(c.Of(0, 45))));
      }},
 };
 
@@ -520,12 +533,14 @@ TEST(Golden, RulesDoAsTheyDid)
     Writer writer(chance);
     std::vector<GameState> records;
     std::generate_n(std::back_inserter(records), kRecords, [&] { return writer.Write(names); });
+    std::vector<std::int64_t> picks;
+    std::generate_n(std::back_inserter(picks), kRecords, [&] { return chance.Between(0, 999); });
     std::ostringstream now;
     for (const Rule& rule : kRules) {
         Sum sum;
         Sum all;
         for (std::size_t i = 0; i < records.size(); ++i) {
-            Case c{records[i], Chance(), chance.Between(0, 999), sum};
+            Case c{records[i], Chance(), picks[i], sum, names};
             c.chance.Seed(i);
             rule.apply(c);
             all.Add(static_cast<std::int64_t>(Total(c.state, sum)));

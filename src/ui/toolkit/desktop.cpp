@@ -306,22 +306,6 @@ Control* Desktop::ControlAt(const Form& form, Point at)
     return it == controls.rend() ? nullptr : *it;
 }
 
-const Control* Desktop::SeenAt(Point at) const
-{
-    const Form* form = FormAt(at);
-    if (form == nullptr) {
-        return nullptr;
-    }
-    if (const Control* control = ControlAt(*form, at)) {
-        return control;
-    }
-    const std::vector<Control*>& controls = form->Controls();
-    const auto it = std::find_if(controls.rbegin(), controls.rend(), [at](const Control* control) {
-        return control->Now().visible && control->Place().Contains(at);
-    });
-    return it == controls.rend() ? nullptr : *it;
-}
-
 PointerShape Desktop::ShapeAt(Point at) const
 {
     const Form* form = FormAt(at);

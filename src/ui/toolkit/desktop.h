@@ -140,8 +140,6 @@ public:
     // To the next button of the front screen whose caption begins with that letter.
     void JumpTo(char32_t letter);
     PointerShape ShapeAt(Point at) const;
-    // The control there that does something, else the front one that is to be seen; null on the bare ground.
-    const Control* SeenAt(Point at) const;
 
     // Keys that no control wanted (F1, the menu's digits). Returns whether it was used.
     std::function<bool(Key)> onKey;

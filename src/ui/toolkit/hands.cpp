@@ -25,6 +25,22 @@ bool IsDigit(Key key)
 
 }  // namespace
 
+const Control* Hands::SeenAt(Point at) const
+{
+    const Form* form = desktop_.FormAt(at);
+    if (form == nullptr) {
+        return nullptr;
+    }
+    if (const Control* control = Desktop::ControlAt(*form, at)) {
+        return control;
+    }
+    const std::vector<Control*>& controls = form->Controls();
+    const auto it = std::find_if(controls.rbegin(), controls.rend(), [at](const Control* control) {
+        return control->Now().visible && control->Place().Contains(at);
+    });
+    return it == controls.rend() ? nullptr : *it;
+}
+
 Hands::Seen Hands::Look(Point at) const
 {
     Seen seen{.form = desktop_.FormAt(at)};
@@ -124,14 +140,14 @@ void Hands::PointerUp(Point at)
 {
     NoteTyping();
     desktop_.PointerUp(at);
-    Watch(desktop_.SeenAt(at));
+    Watch(SeenAt(at));
     LookAgain();
 }
 
 void Hands::PointerMove(Point at, const Desktop::CaretAt& caretAt)
 {
     desktop_.PointerMove(at, caretAt);
-    Watch(desktop_.SeenAt(at));
+    Watch(SeenAt(at));
 }
 
 void Hands::PointerLeave()

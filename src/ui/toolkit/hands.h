@@ -58,6 +58,8 @@ private:
         std::vector<Part> parts{};
     };
 
+    // The control there that does something, else the front one that is to be seen; null on the bare ground.
+    const Control* SeenAt(Point at) const;
     Seen Look(Point at) const;
     bool WasThere(Point at) const;
     void NoteTyping();

@@ -1,10 +1,12 @@
-#include "core/short_text.h"
+#include "text/short_text.h"
 
-#include "ui/toolkit/text_edit.h"
+#include "text/characters.h"
 
-namespace core {
+namespace text {
 
 namespace {
+
+constexpr std::size_t kMost = 200;  // characters that are looked at, however few columns accents take
 
 std::size_t ColumnsOf(char first)
 {
@@ -18,19 +20,17 @@ std::size_t ColumnsOf(char first)
 
 std::string Shortened(std::string_view text, std::size_t columns)
 {
-    ui::TextEdit edit;  // it knows where characters end
-    edit.SetText(text);
-    const std::string& line = edit.Text();
+    const std::string line = Beginning(OneLine(text), kMost);
     std::size_t used = 0;
     std::size_t kept = 0;  // how much stands before the dots
-    for (std::size_t at = 0; at < line.size(); at = edit.Next(at)) {
+    for (std::size_t at = 0; at < line.size(); at = Border(line, at)) {
         used += ColumnsOf(line[at]);
         if (used > columns) {
             return line.substr(0, kept) + "…";
         }
-        kept = used < columns ? edit.Next(at) : kept;
+        kept = used < columns ? Border(line, at) : kept;
     }
     return line;
 }
 
-}  // namespace core
+}  // namespace text
