@@ -44,23 +44,23 @@ ui::Mark MarkOf(Kind kind)
 
 // How a small graph is drawn: its group (none for the popularity), its upper end and its limits.
 struct Drawn {
-    Series series;
     core::Group group;
     double high;
     bool factions;  // the limits of a faction's opposition, and percent
 };
 constexpr double kPercent = 100;
 constexpr double kStrengthShown = 20;
+// By Series.
 constexpr auto kDrawn = std::to_array<Drawn>({
-    {Series::Popularity, core::PersonalArmy, kPercent, false},
-    {Series::Workers, core::Workers, kPercent, true},
-    {Series::Peasants, core::Peasants, kPercent, true},
-    {Series::Businessmen, core::Businessmen, kPercent, true},
-    {Series::Industrialists, core::Industrialists, kPercent, true},
-    {Series::Guerrillas, core::Guerrillas, kStrengthShown, false},
-    {Series::Landowners, core::Landowners, kPercent, true},
-    {Series::Army, core::Army, kPercent, true},
-    {Series::Police, core::Police, kPercent, true},
+    {core::PersonalArmy, kPercent, false},
+    {core::Workers, kPercent, true},
+    {core::Peasants, kPercent, true},
+    {core::Businessmen, kPercent, true},
+    {core::Industrialists, kPercent, true},
+    {core::Guerrillas, kStrengthShown, false},
+    {core::Landowners, kPercent, true},
+    {core::Army, kPercent, true},
+    {core::Police, kPercent, true},
 });
 static_assert(kDrawn.size() == kSeries);
 

@@ -18,69 +18,6 @@ protected:
     test::TestGame game;
 };
 
-TEST_F(TaxesTest, ShowTheStartOfANormalGame)
-{
-    game.Click(kTaxes);
-    EXPECT_THAT(game.Front(), ElementsAre("frmTaxes", "frmMain", "frmMonthBanner"));
-    const struct {
-        const char* control;
-        const char* text;
-    } cells[] = {
-        // factions
-        {"TaxRateC", "2"},
-        {"TaxIncomeC", "6,177,192"},
-        {"Label21", "140$"},
-        {"TaxRateP", "2"},
-        {"TaxIncomeP", "5,396,112"},
-        {"Label20", "90$"},
-        {"TaxRateS", "3"},
-        {"TaxIncomeS", "4,479,291"},
-        {"Label19", "2,985$"},
-        {"TaxRateK", "4"},
-        {"TaxIncomeK", "11,999,964"},
-        {"Label18", "62,331$"},
-        {"TaxRateL", "4"},
-        {"TaxIncomeL", "16,945,871"},
-        {"Label17", "41,587$"},
-        {"lblIncome", "44,998,430"},
-        // expenses, each beside its caption
-        {"lblOutTree(11)", "State expenses:"},
-        {"OutNum(0)", "22,000,000"},
-        {"lblOutTree(0)", "Education:"},
-        {"OutNum(1)", "3,571,748"},
-        {"lblOutTree(1)", "Health care:"},
-        {"OutNum(2)", "3,023,649"},
-        {"lblOutTree(2)", "Allowances:"},
-        {"OutNum(3)", "5,932,999"},
-        {"lblOutTree(3)", "Army:"},
-        {"OutNum(4)", "12,334,300"},
-        {"lblOutTree(4)", "Police:"},
-        {"OutNum(5)", "7,667,206"},
-        {"lblOutTree(5)", "Prisons:"},
-        {"OutNum(6)", "2,399,480"},
-        {"lblOutTree(6)", "Unemployment benefits:"},
-        {"OutNum(7)", "3,700,000"},
-        {"lblOutTree(9)", "War expenses:"},
-        {"OutNum(8)", "0"},
-        {"lblOutTree(10)", "Personal army:"},
-        {"OutNum(9)", "0"},
-        {"lblOutTree(12)", "Total expenses:"},
-        {"OutNum(10)", "60,629,382"},
-        // what is left
-        {"lblbalance", "-15,630,952"},
-        {"Label22", "50,000,000"},
-    };
-    for (const auto& cell : cells) {
-        EXPECT_EQ(game.Text(std::string("frmTaxes.") + cell.control), cell.text) << cell.control;
-    }
-    for (int i = 0; i < 11; ++i) {  // a value stands in the line of its caption
-        const int caption[] = {11, 0, 1, 2, 3, 4, 5, 6, 9, 10, 12};
-        EXPECT_EQ(game.Screens().frmTaxes.OutNum[i].Place().top,
-                  game.Screens().frmTaxes.lblOutTree[caption[i]].Place().top);
-    }
-    game.Expect({{"Popularity", 49}});
-}
-
 TEST_F(TaxesTest, RedGoesWithTheSignOfADebt)
 {
     game.Click(kTaxes);

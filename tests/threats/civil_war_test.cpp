@@ -160,42 +160,6 @@ TEST(CivilWar, BattleFavoursTheStronger)
     }
 }
 
-TEST(CivilWar, RebelsPayAndGuardsFall)
-{
-    core::GameState state;
-    state.Strength.fill(50);
-    state.Opposition.fill(60);
-    state.Population.fill(2'200'000);
-    for (std::size_t n = 1; n <= core::kFactions; ++n) {
-        state.Revolutionaries[n] = 1;
-    }
-    test::ToldChance chance({0, 0.9999999, 0, 0, 0});  // only the five taxed factions are drawn for
-    threats::PunishRebels(state, chance);
-    EXPECT_EQ(chance.drawn, 5);
-    EXPECT_THAT(state.Strength, ElementsAre(42, 42, 45, 43, 43, 40, 45, 50, 50, 50));
-    EXPECT_THAT(state.RevolutionWait, ElementsAre(0, 5, 5, 5, 5, 5, 5, 5));
-    test::ExpectFields(state, {{"Population[Workers]", 2'200'000 - 4'400},
-                               {"Population[Peasants]", 2'200'000 - 24'200},
-                               {"Population[Army]", 2'200'000},
-                               {"Victims", 4 * 4'400 + 24'200},
-                               {"Opposition[Police]", 50},
-                               {"Opposition[Guerrillas]", 60}});
-
-    struct Case {
-        std::int64_t killed, strength;
-    };
-    for (const Case& c : {Case{120, 11}, Case{149, 11}, Case{150, 10}, Case{180, 10}}) {
-        core::GameState guards;
-        guards.Strength[core::PersonalArmy] = 12;
-        guards.Population[core::PersonalArmy] = 600;
-        test::ToldChance die({Roll(c.killed, 120, 180)});
-        threats::BuryGuards(guards, die);
-        test::ExpectFields(guards, {{"Strength[PersonalArmy]", c.strength},
-                                    {"Population[PersonalArmy]", 600 - c.killed},
-                                    {"Victims", c.killed}});
-    }
-}
-
 // Beaten once, for good: the force that struck gets a new chief, the other one keeps its own.
 TEST(CivilWar, AfterACoupTheChiefIsReplaced)
 {

@@ -30,60 +30,6 @@ void Show(test::TestGame& game, const std::vector<Mood>& moods)
     game.Call("ArmyIn");
 }
 
-TEST(Intelligence, WritesItsParagraphLetterByLetter)
-{
-    struct Case {
-        const char* why;
-        std::vector<Mood> moods;
-        const char* paragraph;
-    };
-    const Case cases[] = {
-        {"no threat",
-         {{1, 64, 40}, {2, 54, 10}},
-         "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  Also "
-         "notice that we will not have any assasination attempts next month!"},
-        {"supporters without a starter are not named",
-         {{1, 60, 40}},
-         "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  Also "
-         "notice that we will not have any assasination attempts next month!"},
-        {"a starter, supporters and an assassin",
-         {{1, 65, 30}, {2, 55, 10}, {7, 65, 29}},
-         "The Workers could start a revolution and if this happens Peasants and Police might join in! Be "
-         "carefull, "
-         "we could have a strong and really dangerous assasination attempt next month!"},
-        {"two starters alone",
-         {{1, 65, 30}, {6, 90, 70}},
-         "The Workers or the Army could start a revolution, but there are no other parties willing to "
-         "support them! "
-         "Also notice that we will not have any assasination attempts next month!"},
-        {"who waits is left out",
-         {{1, 90, 40, 1}, {2, 90, 10, 1, 1}},
-         "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  Also "
-         "notice that we will not have any assasination attempts next month!"},
-        {"and so are supporters who wait",
-         {{1, 65, 30}, {2, 90, 10, 1, 1}},
-         "The Workers could start a revolution, but there are no other parties willing to support them! "
-         "Also notice that we will not have any assasination attempts next month!"},
-        {"weak assassins",
-         {{3, 65, 29, 1}},
-         "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  "
-         "Nothing to "
-         "worry about if you are prepared, but we could have a week assasination attempt next month."},
-        {"the later assassin is the one warned of",
-         {{3, 65, 29, 1}, {4, 65, 29, 1}},
-         "There are no parties unhappy or strong enough to start a revolution so don't worry about it.  "
-         "Watch out "
-         "because we could have a strong assasination attempt next month!"},
-    };
-    test::TestGame game;
-    game.StartGame();
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.why);
-        Show(game, c.moods);
-        EXPECT_EQ(game.Text("frmAIN.Label4"), c.paragraph);
-    }
-}
-
 TEST(Intelligence, BarsGrowWithEachPointAndAreCutWithASign)
 {
     struct Case {

@@ -63,49 +63,6 @@ TEST(Revolution, IsJoinedByTheHatefulWhateverTheirStrength)
     EXPECT_THAT(state.Revolutionaries, ElementsAre(0, 0, 1, 1, 0, 1, 0, 0, 0, 0));
 }
 
-TEST(Revolution, SaysWhoRoseLetterByLetter)
-{
-    struct Case {
-        int starter;
-        std::vector<int> members;
-        const char* message;
-    };
-    const Case cases[] = {
-        {6,
-         {6},
-         "Mr.President, the Army started a war against you! Their strength is at 28% what do you want to "
-         "do?"},
-        {3,
-         {2, 3},
-         "Revolution started by the Businessmen, but they were joined by  the Peasants! Revolutioner's "
-         "strength "
-         "is at 20% what do you want to do?"},
-        {5,
-         {1, 5, 7},
-         "Revolution started by the Landowners, but they were joined by  the Workers and Police! "
-         "Revolutioner's "
-         "strength is at 38% what do you want to do?"},
-        {4,
-         {1, 2, 4, 7},
-         "Revolution started by the Industrialists, but they were joined by  the Workers, Peasants and "
-         "Police! "
-         "Revolutioner's strength is at 47% what do you want to do?"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.message);
-        core::GameState state;
-        //                Workers Peasants Businessmen Industrialists Landowners Army Police and the others
-        state.Strength = {30, 28, 22, 35, 40, 70, 25, 0, 0, 0};
-        state.RevolutionStarter = c.starter;
-        for (const int member : c.members) {
-            state.Revolutionaries[static_cast<std::size_t>(member)] = 1;
-        }
-        threats::MeasureRevolution(state);
-        EXPECT_EQ(threats::RevolutionMessage(state), c.message);
-        EXPECT_EQ(state.TotalStrength, 250);
-    }
-}
-
 TEST(Revolution, TurnsTheBackdropRedAndWaitsForAnAnswer)
 {
     test::TestGame game;
