@@ -51,7 +51,6 @@ Requests::Requests(core::GameState& state, core::Chance& chance, core::Journal& 
 
 void Requests::Request()
 {
-    month_.TakeMenu();
     if (!DrawRequest(state_, chance_)) {
         month_.Close();
         return;

@@ -37,43 +37,6 @@ template <class Rule> void Try(std::span<const Case> cases, const Rule& rule)
     }
 }
 
-TEST(Month, KeepsStrengthsAtTheirFloor)
-{
-    const Case cases[] = {
-        {"one and more for all but the prisoners",
-         {{"Strength[Workers]", 0}, {"Strength[Guerrillas]", -5}, {"Strength[Prisoners]", -3}},
-         {{"Strength[Workers]", 1},
-          {"Strength[Guerrillas]", 1},
-          {"Strength[Prisoners]", 0},
-          {"TotalStrength", 222}}},
-        {"the personal army has no floor",
-         {{"Strength[PersonalArmy]", -7}},
-         {{"Strength[PersonalArmy]", -7}, {"TotalStrength", 256}, {"StrengthPct[PersonalArmy]", -3}}},
-        {"shares of the whole",
-         {{"Strength[PersonalArmy]", 37}},
-         {{"TotalStrength", 300},
-          {"StrengthPct[Workers]", 10.0F},
-          {"StrengthPct[Army]", 23.333334F},
-          {"StrengthPct[PersonalArmy]", 12}}},
-        {"the personal army's share is rounded half to even",
-         {{"Strength[Workers]", 1},
-          {"Strength[Peasants]", 1},
-          {"Strength[Businessmen]", 1},
-          {"Strength[Industrialists]", 1},
-          {"Strength[Landowners]", 1},
-          {"Strength[Army]", 187},
-          {"Strength[Police]", 1},
-          {"Strength[Guerrillas]", 1},
-          {"Strength[Prisoners]", 1},
-          {"Strength[PersonalArmy]", 5}},
-         {{"TotalStrength", 200}, {"StrengthPct[PersonalArmy]", 2}, {"StrengthPct[Army]", 93.5F}}},
-        {"a sum beyond the field stays at its limit",
-         {{"Strength[Workers]", 32767}, {"Strength[Army]", 32767}},
-         {{"TotalStrength", 32767}, {"StrengthPct[Workers]", 100.0F}}},
-    };
-    Try(cases, core::FixNum);
-}
-
 TEST(Month, CountsPopularityWithoutLimits)
 {
     const Case cases[] = {

@@ -169,7 +169,7 @@ Lines TellOne(int seed, core::Level level, int helpedEvery)
     return scribe.lines;
 }
 
-// How a presidency of the golden games ends: the last page, and the hall behind it.
+// How a presidency of the golden games ends: the last page, and the hall behind it; what led there, in one number.
 Lines TellTheEnd(int seed, core::Level level)
 {
     constexpr std::size_t kPage = 24;  // lines of the last page, at most
@@ -177,8 +177,13 @@ Lines TellTheEnd(int seed, core::Level level)
     const auto page = std::find_if(lines.rbegin(), lines.rend(), [](const std::string& line) {
         return line.find("The last page of El Faro") == 0;
     });
-    lines.erase(lines.begin(), page == lines.rend() ? lines.end() - 1 : page.base() - 1);
+    const auto last = page == lines.rend() ? lines.end() - 1 : page.base() - 1;
+    test::Sum before;
+    std::for_each(lines.begin(), last, [&before](const std::string& line) { before.Add(line); });
+    before.Add(lines.back());
+    lines.erase(lines.begin(), last);
     lines.resize(std::min(lines.size(), kPage));
+    lines.push_back("after what comes to " + std::to_string(before.Take()));
     lines.insert(lines.begin(), "== " + std::to_string(seed) + ", the end");
     return lines;
 }

@@ -50,7 +50,7 @@ TEST(Chronicle, ComesBackFromItsTextAndBrokenOnesAreTold)
         {"\"battle\",\"\",1\r\n", "c, line 1: expected a kind, a name and a number behind a month"},
         {"1,2,3\r\n", "c, line 1: expected more numbers, found the end"},
         {"1,x\r\n", "c, line 1: expected a whole number for a month's row, found \"x\""},
-        {text + "\"battle\",\"Nobody\",1\r\n", "a word of the journal"},
+        {text + "\"battle\",\"Nobody\",1\r\n", "a word of the journal for a note, found \"Nobody\""},
         {text + "\"battle\",\"Workers\"\r\n", "a number behind a month"},
     };
     for (const auto& each : broken) {

@@ -1,4 +1,5 @@
 // Saving and loading by clicks, in good times and in bad.
+#include "persist/archive.h"
 #include "persist/saved_game.h"
 #include "support/faulty_system.h"
 #include "support/test_game.h"
@@ -7,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -89,6 +91,10 @@ TEST_F(ArchiveScreens, SaveAndLoadAGame)
               "\"Empty slot\"\r\n\"Empty slot\"\r\n");
     const std::string saved = persist::WriteSavedGame(game_.State());
     EXPECT_EQ(game_.folder.Read("Save/Save3"), saved);
+    for (const auto& written : std::filesystem::directory_iterator(game_.folder.Path("Save"))) {
+        EXPECT_THAT(persist::Archive::Files(),
+                    testing::Contains("Save/" + written.path().filename().string()));
+    }
 
     game_.Set({{"Money", 1},
                {"SwissBank", 1},
