@@ -110,8 +110,15 @@ export class Page {
     await this.tab.waitForFunction((text) => document.getElementById("twin").textContent.includes(text), {timeout}, text);
   }
 
+  // The twin follows the picture by a moment, by more on a busy machine.
+  async buttonCame(words) {
+    await this.tab.waitForFunction((words) => [...document.querySelectorAll("#twin > section:not([inert]) button:enabled")]
+      .some((button) => button.textContent.startsWith(words)), {timeout: 3000, polling: 20}, words).catch(() => {});
+  }
+
   // Presses a button of the twin whose words begin so.
   async press(words) {
+    await this.buttonCame(words);
     const found = await this.tab.evaluate((words) => {
       const button = [...document.querySelectorAll("#twin > section")].filter((part) => !part.inert)
         .flatMap((part) => [...part.querySelectorAll("button:enabled")])

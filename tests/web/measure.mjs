@@ -15,7 +15,7 @@ const kSqueezed = new Set([".html", ".js", ".wasm", ".json", ".css", ".bin", ".w
 const kRuns = 7;
 const kClicks = 40;
 
-const median = (values) => values.toSorted((a, b) => a - b)[Math.floor(values.length / 2)];
+const median = (values) => [...values].sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
 const files = new Map();
 const read = (path) => {

@@ -32,10 +32,11 @@
     context = context || canvas.getContext("2d", { alpha: false });
     const image = context.createImageData(width, height);
     const to = new Uint32Array(image.data.buffer);
+    const words = HEAPU32;  // looked up once: the script's own is another one after the memory has grown
     for (let y = 0, at = 0; y < height; ++y) {
       let from = (pixels + (top + y) * pitch + left * 4) >> 2;
       for (let x = 0; x < width; ++x, ++at, ++from) {
-        const bgr = Module.HEAPU32 ? Module.HEAPU32[from] : HEAPU32[from];
+        const bgr = words[from];
         to[at] = 0xff000000 | ((bgr & 0xff) << 16) | (bgr & 0xff00) | ((bgr >> 16) & 0xff);
       }
     }
