@@ -27,7 +27,7 @@ TEST(BalanceCountry, GoesOnElsewhereAsItWouldHaveHere)
     balance::Country there(deck);
     const auto steward = balance::MakeSteward({.sellFrom = 6, .leaveFrom = 10, .provoke = true});
     int compared = 0;
-    for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+    for (std::uint64_t seed = 1; seed <= 60; ++seed) {
         SCOPED_TRACE(seed);
         here.Begin(static_cast<std::int64_t>(seed % 3), seed);
         Play(here, *steward, kMonths);

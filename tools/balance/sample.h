@@ -35,8 +35,8 @@ struct Sample {
     double ErrorOfMean() const;                 // one standard error of it
     std::int64_t MonthsAt(double share) const;  // 0.5: the median
     std::int64_t PointsAt(double share) const;
-    double Ends(Ending ending) const;  // share of the games
-    int Months() const;                // of all games
+    double Ends(Ending how) const;  // share of the games
+    int Months() const;             // of all games
 };
 
 struct Orders {

@@ -74,7 +74,7 @@ public:
             Sketch after(country);
             after.Add(country.Cards().offers[static_cast<std::size_t>(n)]);
             after.millions += n == 4 ? 50 : n == 5 ? 36 : 0;
-            after.monthly += kPrice[n];
+            after.monthly += kPrice.at(static_cast<std::size_t>(n));
             const double worth =
                 -after.Danger(plan_.thrift) - (chance >= plan_.courage ? 0 : 1000 * (1 - chance));
             if (worth > bestWorth) {

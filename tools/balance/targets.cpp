@@ -28,7 +28,7 @@ constexpr std::array<double, 3> All(double value)
     return {value, value, value};
 }
 
-Figure Of(const char* bot, std::function<double(const Sample&)> figure)
+Figure Of(const char* bot, const std::function<double(const Sample&)>& figure)
 {
     return [bot, figure](const std::vector<Sample>& samples, std::int64_t level) {
         const Sample* sample = Find(samples, bot, level);
