@@ -7,7 +7,7 @@
 // "images/2x/title.png", when there is one. Only the file in use is read.
 //
 // A large picture is kept while a screen that shows it is up; after painting, KeepOnly says which those are. Of
-// the others the last ones used stay, for who goes to and fro, as far as kSparePixels reach. Small ones (the
+// the others the last ones used stay, as far as kSparePixels reach, for who goes there and back. Small ones (the
 // menu's keys, the marks) stay all.
 #pragma once
 

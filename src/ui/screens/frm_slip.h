@@ -21,7 +21,7 @@ constexpr SlipRow SlipRowAt(int row)
 {
     const int x = kSlipPaper.left + 10 + 196 * (row / 4);
     const int y = kSlipPaper.top + 38 + 21 * (row % 4);
-    return {{x, y, 124, 21}, {x + 90, y, 40, 21}, {x + 132, y, 60, 21}};
+    return {{x, y, 124, 21}, {x + 94, y, 40, 21}, {x + 136, y, 58, 21}};
 }
 constexpr ui::Rect SlipMoneyValue(int row) { return {584, 414 + 42 * row, 96, 21}; }
 constexpr ui::Rect SlipMoneyChange(int row) { return {548, 435 + 42 * row, 132, 21}; }
