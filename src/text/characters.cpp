@@ -54,26 +54,26 @@ std::string OneLine(std::string_view text)
     return line;
 }
 
-std::size_t Border(const std::string& text, std::size_t offset)
+std::size_t Border(const std::string& line, std::size_t offset)
 {
-    if (offset >= text.size()) {
-        return text.size();
+    if (offset >= line.size()) {
+        return line.size();
     }
-    auto it = text.begin() + static_cast<std::ptrdiff_t>(offset);
+    auto it = line.begin() + static_cast<std::ptrdiff_t>(offset);
     char32_t last = utf8::unchecked::next(it);
-    if (IsFlagLetter(last) && it != text.end() &&
-        IsFlagLetter(At(text, static_cast<std::size_t>(it - text.begin())))) {
+    if (IsFlagLetter(last) && it != line.end() &&
+        IsFlagLetter(At(line, static_cast<std::size_t>(it - line.begin())))) {
         last = utf8::unchecked::next(it);
     }
-    while (it != text.end()) {
-        const char32_t c = At(text, static_cast<std::size_t>(it - text.begin()));
+    while (it != line.end()) {
+        const char32_t c = At(line, static_cast<std::size_t>(it - line.begin()));
         const bool joined = last == 0x200D;  // what follows a joiner belongs to the same sign
         if (!Joins(c) && !joined) {
             break;
         }
         last = utf8::unchecked::next(it);
     }
-    return static_cast<std::size_t>(it - text.begin());
+    return static_cast<std::size_t>(it - line.begin());
 }
 
 bool IsBlankAt(const std::string& line, std::size_t offset)
@@ -82,9 +82,9 @@ bool IsBlankAt(const std::string& line, std::size_t offset)
     return c == U' ' || c == U'\u00A0' || c == U'\u3000';
 }
 
-std::size_t Length(std::string_view text)
+std::size_t Length(std::string_view line)
 {
-    return static_cast<std::size_t>(utf8::unchecked::distance(text.begin(), text.end()));
+    return static_cast<std::size_t>(utf8::unchecked::distance(line.begin(), line.end()));
 }
 
 std::string Beginning(const std::string& line, std::size_t room)

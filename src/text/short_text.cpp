@@ -20,7 +20,7 @@ std::size_t ColumnsOf(char first)
 
 std::string Shortened(std::string_view text, std::size_t columns)
 {
-    const std::string line = Beginning(OneLine(text), kMost);
+    std::string line = Beginning(OneLine(text), kMost);
     std::size_t used = 0;
     std::size_t kept = 0;  // how much stands before the dots
     for (std::size_t at = 0; at < line.size(); at = Border(line, at)) {

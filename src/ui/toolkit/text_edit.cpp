@@ -11,23 +11,23 @@ std::string TextEdit::Selected() const
     return text_.substr(SelectionStart(), SelectionEnd() - SelectionStart());
 }
 
-void TextEdit::SetComposition(std::string_view typed)
+void TextEdit::SetComposition(std::string_view text)
 {
-    composition_ = text::OneLine(typed);
+    composition_ = text::OneLine(text);
 }
 
-void TextEdit::SetText(std::string_view typed)
+void TextEdit::SetText(std::string_view text)
 {
-    text_ = text::Beginning(text::OneLine(typed), longest_);
+    text_ = text::Beginning(text::OneLine(text), longest_);
     composition_.clear();
     caret_ = anchor_ = text_.size();
 }
 
-void TextEdit::Insert(std::string_view typed)
+void TextEdit::Insert(std::string_view text)
 {
     const std::size_t start = SelectionStart();
     text_.erase(start, SelectionEnd() - start);
-    const std::string line = text::Beginning(text::OneLine(typed), longest_ - text::Length(text_));
+    const std::string line = text::Beginning(text::OneLine(text), longest_ - text::Length(text_));
     text_.insert(start, line);
     composition_.clear();
     PlaceCaret(start + line.size(), false);  // what was inserted may have joined what follows
